@@ -1,0 +1,43 @@
+# The rooms of the library and which rooms each may include. Checked at every configure, so that an arrow that points
+# upwards stops the build.
+set(QZBASE_ROOMS os runtime core text persist desc data layout platform locale automation)
+
+set(QZBASE_MAY_INCLUDE_os         os)
+set(QZBASE_MAY_INCLUDE_runtime    os runtime)
+set(QZBASE_MAY_INCLUDE_core       os runtime core)
+set(QZBASE_MAY_INCLUDE_text       os runtime core text)
+set(QZBASE_MAY_INCLUDE_persist    os runtime core text persist)
+set(QZBASE_MAY_INCLUDE_desc       os runtime core text persist desc)
+set(QZBASE_MAY_INCLUDE_data       os runtime core text persist desc data)
+set(QZBASE_MAY_INCLUDE_layout     os runtime core text persist desc data layout)
+set(QZBASE_MAY_INCLUDE_platform   os runtime core text persist desc data platform)
+set(QZBASE_MAY_INCLUDE_locale     os runtime core text persist desc data locale)
+set(QZBASE_MAY_INCLUDE_automation ${QZBASE_ROOMS})
+
+# The global classes (GC...) are the faces of their rooms: they may include every object class, and nothing below the
+# automation room may include them.
+function(qzbase_check_layers)
+  set(faults "")
+  foreach(room IN LISTS QZBASE_ROOMS)
+    file(GLOB_RECURSE files RELATIVE ${PROJECT_SOURCE_DIR}
+         ${PROJECT_SOURCE_DIR}/qzbase/${room}/*.h ${PROJECT_SOURCE_DIR}/qzbase/${room}/*.cpp)
+    foreach(file IN LISTS files)
+      get_filename_component(name ${file} NAME)
+      file(STRINGS ${PROJECT_SOURCE_DIR}/${file} includes REGEX "^#include \"qzbase/")
+      foreach(line IN LISTS includes)
+        string(REGEX REPLACE "^#include \"qzbase/([a-z]+)/([^\"]+)\".*" "\\1;\\2" target "${line}")
+        list(GET target 0 target_room)
+        list(GET target 1 target_file)
+        if(target_file MATCHES "(^|/)GC[A-Z]" AND NOT name MATCHES "^GC[A-Z]" AND NOT room STREQUAL "automation")
+          list(APPEND faults "${file} includes the global class ${target_file}")
+        elseif(NOT name MATCHES "^GC[A-Z]" AND NOT target_room IN_LIST QZBASE_MAY_INCLUDE_${room})
+          list(APPEND faults "${file} includes ${target_room}/${target_file}")
+        endif()
+      endforeach()
+    endforeach()
+  endforeach()
+  if(faults)
+    list(JOIN faults "\n  " faults)
+    message(FATAL_ERROR "Includes that point upwards:\n  ${faults}")
+  endif()
+endfunction()

@@ -1,0 +1,23 @@
+// Equality and order of variants of any two kinds.
+//
+// Numbers, dates and booleans compare as numbers; texts by the locale's order; a text is greater than any number, date
+// or boolean; empty equals 0, "" and false; null compared with anything gives no order.
+#pragma once
+
+#include <cstdint>
+
+#include "qzbase/os/Collation.h"
+#include "qzbase/runtime/Locale.h"
+#include "qzbase/runtime/Variant.h"
+
+namespace qzbase::runtime {
+
+using os::CaseRule;
+
+enum class Order : std::uint8_t { Less, Equal, Greater, Unknown };
+
+// Raises error 13 for objects and arrays.
+Order Compare(const Variant& pLeft, const Variant& pRight, CaseRule pCase = CaseRule::CaseSensitive,
+              const LocaleRules& pRules = ThreadLocale());
+
+}  // namespace qzbase::runtime

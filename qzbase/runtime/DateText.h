@@ -1,0 +1,19 @@
+// The default text of dates.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "qzbase/runtime/Date.h"
+#include "qzbase/runtime/Locale.h"
+
+namespace qzbase::runtime {
+
+enum class DateTextParts : std::uint8_t { Both, DateOnly, TimeOnly };
+
+// The locale's short date and long time. `Both` leaves out the time at midnight and the date on day 0 (unless both
+// would go). Raises error 5 outside the calendar's years.
+std::u16string DateText(Date pDate, const LocaleRules& pRules = ThreadLocale(),
+                        DateTextParts pParts = DateTextParts::Both);
+
+}  // namespace qzbase::runtime

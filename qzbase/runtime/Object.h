@@ -1,0 +1,57 @@
+// What every object is: something held by reference whose members can be called by name.
+//
+// Objects are made by `New<T>()`, held by `Ref<T>` and never copied by C++ copy. Whether an object is one of this
+// library or comes from a host, its members answer to their names, ignoring case:
+//
+//   Variant count = list->Get(u"ListCount");
+//   list->Call(u"AddItem", u"third line", 3);
+//   list->Let(u"Selected", 2, true);        // index first, the new value last
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <utility>
+
+namespace qzbase::runtime {
+
+class Variant;
+
+template <class T>
+using Ref = std::shared_ptr<T>;
+
+template <class T, class... Arguments>
+Ref<T> New(Arguments&&... pArguments) {
+  return std::make_shared<T>(std::forward<Arguments>(pArguments)...);
+}
+
+// How a member is called. The values are those of the platform's dispatch flags, so that they can be joined ("method or
+// property get").
+enum class CallKind : std::uint16_t { Method = 1, Get = 2, MethodOrGet = 3, Let = 4, Set = 8 };
+
+class Object : public std::enable_shared_from_this<Object> {
+ public:
+  Object() = default;
+  virtual ~Object() = default;
+  Object(const Object&) = delete;
+  Object& operator=(const Object&) = delete;
+
+  // Calls the member `pName`. Arguments are in the order of its parameters, the new value of a let or set last; a
+  // by-reference parameter changes its argument. Raises error 438 where the object has no such member (this class has
+  // none) and what the member raises.
+  virtual Variant Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments);
+
+  template <class... Arguments>
+  Variant Call(std::u16string_view pName, Arguments&&... pArguments);
+  template <class... Arguments>
+  Variant Get(std::u16string_view pName, Arguments&&... pArguments);
+  template <class... Arguments>
+  void Let(std::u16string_view pName, Arguments&&... pArguments);
+  template <class... Arguments>
+  void Set(std::u16string_view pName, Arguments&&... pArguments);
+};
+
+}  // namespace qzbase::runtime
+
+#include "qzbase/runtime/Variant.h"

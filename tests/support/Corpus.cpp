@@ -1,0 +1,155 @@
+#include "tests/support/Corpus.h"
+
+#include <algorithm>
+#include <bit>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+namespace qzbase::tests {
+namespace {
+
+[[noreturn]] void Fail(std::string_view pWhat, std::string_view pName) {
+  std::fprintf(stderr, "%.*s: %.*s\n", static_cast<int>(pWhat.size()), pWhat.data(), static_cast<int>(pName.size()),
+               pName.data());
+  std::abort();
+}
+
+std::string Unescape(std::string_view pField) {
+  std::string result;
+  for (std::size_t i = 0; i < pField.size(); ++i) {
+    if (pField[i] != '\\' || i + 1 == pField.size()) {
+      result += pField[i];
+      continue;
+    }
+    const char c = pField[++i];
+    result += c == 't' ? '\t' : c == 'n' ? '\n' : c == 'r' ? '\r' : c;
+  }
+  return result;
+}
+
+std::vector<std::string> SplitFields(const std::string& pLine) {
+  std::vector<std::string> fields;
+  std::size_t start = 0;
+  for (std::size_t tab; (tab = pLine.find('\t', start)) != std::string::npos; start = tab + 1)
+    fields.push_back(Unescape(std::string_view(pLine).substr(start, tab - start)));
+  fields.push_back(Unescape(std::string_view(pLine).substr(start)));
+  return fields;
+}
+
+os::LocaleRules ReadLocale(std::string_view pName) {
+  std::map<std::string, std::u16string> item;
+  for (const CorpusRow& row : Corpus("locale_data.tsv")) item[row["item"]] = row.Text(pName);
+  const auto number = [&](const char* pItem) { return std::atoi(ToUtf8(item[pItem]).c_str()); };
+
+  os::LocaleRules rules;
+  rules.name = FromUtf8(pName);
+  rules.decimal = item["decimal"];
+  rules.thousands = item["thousand"];
+  rules.decimals = number("idigits");
+  rules.leadingZero = number("ilzero") != 0;
+  rules.negativeNumber = number("inegnumber");
+  rules.positiveSign = item["poss"];
+  rules.negativeSign = item["negsign"];
+  rules.listSeparator = item["list"];
+  rules.currency = item["currency"];
+  rules.monetaryDecimal = item["mondec"];
+  rules.monetaryThousands = item["monthou"];
+  rules.monetaryDecimals = number("icurrdigits");
+  rules.positiveCurrency = number("icurrency");
+  rules.negativeCurrency = number("inegcurr");
+  rules.dateSeparator = item["date"];
+  rules.timeSeparator = item["time"];
+  rules.shortDate = item["shortdate"];
+  rules.longDate = item["longdate"];
+  rules.longTime = item["timefmt"];
+  rules.shortTime = item["shorttime"];
+  rules.dateOrder = static_cast<os::DateOrder>(number("idate"));
+  rules.am = item["am"];
+  rules.pm = item["pm"];
+  rules.firstDayOfWeek = number("firstday");
+  rules.firstWeekOfYear = number("firstweek");
+  const auto names = [&](const char* pPrefix, auto& pNames) {
+    for (std::size_t i = 0; i < pNames.size(); ++i) pNames[i] = item[pPrefix + std::to_string(i + 1)];
+  };
+  names("day", rules.days);
+  names("aday", rules.shortDays);
+  names("month", rules.months);
+  names("amonth", rules.shortMonths);
+  return rules;
+}
+
+}  // namespace
+
+const std::string& CorpusRow::operator[](std::string_view pColumn) const {
+  static const std::string empty;
+  const auto column = std::find(header_->begin(), header_->end(), pColumn);
+  if (column == header_->end()) Fail("no such column", pColumn);
+  const auto index = static_cast<std::size_t>(column - header_->begin());
+  return index < fields_.size() ? fields_[index] : empty;
+}
+
+std::uint64_t CorpusRow::Hex(std::string_view pColumn) const {
+  const std::string& digits = (*this)[pColumn];
+  std::uint64_t value = 0;
+  if (std::from_chars(digits.data(), digits.data() + digits.size(), value, 16).ec != std::errc())
+    Fail("no hexadecimal number", digits);
+  return value;
+}
+
+double CorpusRow::DoubleFromBits(std::string_view pColumn) const {
+  return std::bit_cast<double>(Hex(pColumn));
+}
+
+bool CorpusRow::IsSettled() const {
+  if ((*this)["doubt"].empty()) return true;
+  for (const char* column : {"documented", "documented_iso"})
+    if (std::find(header_->begin(), header_->end(), column) != header_->end() && !(*this)[column].empty()) return true;
+  return false;
+}
+
+Corpus::Corpus(std::string_view pFileName) {
+  std::istringstream stream(ReadTestFile("data/" + std::string(pFileName)));
+  std::string line;
+  std::getline(stream, line);
+  header_ = SplitFields(line);
+  for (int number = 2; std::getline(stream, line); ++number) rows_.emplace_back(header_, SplitFields(line), number);
+}
+
+std::string TestFilePath(std::string_view pRelativePath) {
+  return std::string(QZBASE_TEST_FOLDER "/") + std::string(pRelativePath);
+}
+
+std::string ReadTestFile(std::string_view pRelativePath) {
+  std::ifstream stream(TestFilePath(pRelativePath), std::ios::binary);
+  if (!stream) Fail("cannot read the test file", pRelativePath);
+  std::ostringstream content;
+  content << stream.rdbuf();
+  return content.str();
+}
+
+const os::LocaleRules& TestLocale(std::string_view pName) {
+  static std::map<std::string, os::LocaleRules, std::less<>> locales;
+  auto found = locales.find(pName);
+  if (found == locales.end()) found = locales.emplace(std::string(pName), ReadLocale(pName)).first;
+  return found->second;
+}
+
+Disagreements::~Disagreements() {
+  EXPECT_GT(checked_, 0) << what_ << ": no row was checked";
+  EXPECT_EQ(count_, 0) << what_ << ": of " << checked_ << " rows, first disagreements:\n" << shown_;
+}
+
+void Disagreements::Add(const CorpusRow& pRow, std::string_view pInput, std::string_view pExpected,
+                        std::string_view pActual) {
+  if (++count_ > 20) return;
+  std::ostringstream row;
+  row << "  line " << pRow.Line() << " " << pRow["locale"] << " [" << pInput << "] expected [" << pExpected << "] got ["
+      << pActual << "]\n";
+  shown_ += row.str();
+}
+
+}  // namespace qzbase::tests
