@@ -33,10 +33,11 @@ DecimalDigits::DecimalDigits(double pValue, std::int32_t pMaxDigits)
     : negative_(std::signbit(pValue)), finite_(std::isfinite(pValue)) {
   if (!finite_ || pValue == 0) return;
   // The shortest text that reads back as the same number is the cheapest to make and, when it has no more digits than
-  // asked for, also the nearest number of so many digits. Only longer ones are rounded from the exact value.
+  // asked for, also the nearest number of so many digits; but for subnormal numbers, which carry fewer digits than 15.
+  // Only longer ones are rounded from the exact value.
   Scientific buffer;
   std::string_view text = Write(buffer, std::fabs(pValue));
-  if (MantissaDigits(text) > pMaxDigits) text = Write(buffer, std::fabs(pValue), pMaxDigits);
+  if (MantissaDigits(text) > pMaxDigits || !std::isnormal(pValue)) text = Write(buffer, std::fabs(pValue), pMaxDigits);
 
   const std::size_t exponentMark = text.find('e');
   digits_[0] = text[0];
