@@ -1,0 +1,44 @@
+#include "qzbase/runtime/Compare.h"
+
+#include <compare>
+
+#include "qzbase/runtime/Convert.h"
+
+namespace qzbase::runtime {
+namespace {
+
+Order Reversed(Order pOrder) {
+  return pOrder == Order::Less ? Order::Greater : pOrder == Order::Greater ? Order::Less : pOrder;
+}
+
+Order OrderOf(int pSign) {
+  return pSign < 0 ? Order::Less : pSign > 0 ? Order::Greater : Order::Equal;
+}
+
+// Not-a-number has no order, like null.
+Order CompareNumbers(double pLeft, double pRight) {
+  const std::partial_ordering order = pLeft <=> pRight;
+  if (order == std::partial_ordering::unordered) return Order::Unknown;
+  return order < 0 ? Order::Less : order > 0 ? Order::Greater : Order::Equal;
+}
+
+void RefuseObjects(const Variant& pValue) {
+  if (pValue.Kind() == VariantKind::Object || pValue.Kind() == VariantKind::Array) Raise(RuntimeError::TypeMismatch);
+}
+
+}  // namespace
+
+Order Compare(const Variant& pLeft, const Variant& pRight, CaseRule pCase, const LocaleRules& pRules) {
+  RefuseObjects(pLeft);
+  RefuseObjects(pRight);
+  if (pLeft.IsNull() || pRight.IsNull()) return Order::Unknown;
+
+  const auto* leftText = pLeft.If<std::u16string>();
+  const auto* rightText = pRight.If<std::u16string>();
+  if (leftText && rightText) return OrderOf(os::CompareText(*leftText, *rightText, pCase, pRules.name));
+  if (leftText) return pRight.IsEmpty() && leftText->empty() ? Order::Equal : Order::Greater;
+  if (rightText) return Reversed(Compare(pRight, pLeft, pCase, pRules));
+  return CompareNumbers(ToDouble(pLeft, pRules), ToDouble(pRight, pRules));
+}
+
+}  // namespace qzbase::runtime
