@@ -62,7 +62,7 @@ TEST(NumberText, DelimiterOfAnyLengthAndPlainMinus) {
   EXPECT_EQ(NumberText(1.25e-20, rules), u"1::25E-20");
 }
 
-// The shortest text of these ends in a 5 just behind the digits asked for, so only the exact value tells the side.
+// Where the shortest text ends in a 5 just behind the digits asked for, only the exact value tells the side.
 TEST(DecimalDigits, HalvesAreDecidedByTheExactValue) {
   const struct {
     double value;
