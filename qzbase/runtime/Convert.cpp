@@ -13,18 +13,25 @@
 namespace qzbase::runtime {
 namespace {
 
+// The value that a recogniser has read, or the error that its result stands for.
 template <class T>
-T TextToNumber(std::u16string_view pText, const LocaleRules& pRules) {
-  T value{};
-  switch (ReadNumber(pText, value, pRules)) {
+T Checked(ReadResult pResult, T pValue) {
+  switch (pResult) {
     case ReadResult::Read:
-      return value;
+      return pValue;
     case ReadResult::NotANumber:
       Raise(RuntimeError::TypeMismatch);
     case ReadResult::Overflow:
       Raise(RuntimeError::Overflow);
   }
   Raise(RuntimeError::InternalError);
+}
+
+template <class T>
+T TextToNumber(std::u16string_view pText, const LocaleRules& pRules) {
+  T value{};
+  const ReadResult result = ReadNumber(pText, value, pRules);
+  return Checked(result, value);
 }
 
 template <std::integral T>
@@ -166,9 +173,21 @@ std::int32_t TextToLong(std::u16string_view pText, const LocaleRules& pRules) {
 }
 
 bool TextToBoolean(std::u16string_view pText, const LocaleRules& pRules) {
-  if (EqualName(pText, BooleanText(true)) || pText == u"#TRUE#") return true;
-  if (EqualName(pText, BooleanText(false)) || pText == u"#FALSE#") return false;
-  return TextToDouble(pText, pRules) != 0;
+  bool value = false;
+  const ReadResult result = ReadBoolean(pText, value, pRules);
+  return Checked(result, value);
+}
+
+ReadResult ReadBoolean(std::u16string_view pText, bool& pValue, const LocaleRules& pRules) {
+  const bool isTrue = EqualName(pText, BooleanText(true)) || pText == u"#TRUE#";
+  if (isTrue || EqualName(pText, BooleanText(false)) || pText == u"#FALSE#") {
+    pValue = isTrue;
+    return ReadResult::Read;
+  }
+  double number = 0;
+  const ReadResult result = ReadNumber(pText, number, pRules);
+  if (result == ReadResult::Read) pValue = number != 0;
+  return result;
 }
 
 Date TextToDate(std::u16string_view pText, const LocaleRules& pRules) {

@@ -15,6 +15,7 @@
 #include <string_view>
 
 #include "qzbase/runtime/Locale.h"
+#include "qzbase/runtime/NumberReader.h"
 #include "qzbase/runtime/Variant.h"
 
 namespace qzbase::runtime {
@@ -33,6 +34,9 @@ double TextToDouble(std::u16string_view pText, const LocaleRules& pRules = Threa
 std::int32_t TextToLong(std::u16string_view pText, const LocaleRules& pRules = ThreadLocale());
 bool TextToBoolean(std::u16string_view pText, const LocaleRules& pRules = ThreadLocale());
 Date TextToDate(std::u16string_view pText, const LocaleRules& pRules = ThreadLocale());
+
+// Without an error: on success `pValue` holds the boolean, otherwise it is left as it was.
+ReadResult ReadBoolean(std::u16string_view pText, bool& pValue, const LocaleRules& pRules = ThreadLocale());
 
 // "True" or "False" in every locale.
 std::u16string_view BooleanText(bool pValue) noexcept;

@@ -1,0 +1,129 @@
+#include "qzbase/data/TypedVector.h"
+
+#include <algorithm>
+
+#include "qzbase/data/CBoolVector.h"
+#include "qzbase/data/CDblVector.h"
+#include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CStrVector.h"
+#include "qzbase/runtime/AutomationError.h"
+
+namespace qzbase {
+namespace {
+
+constexpr std::u16string_view kOpeningTag = u"VE#1";
+constexpr std::u16string_view kClosingTag = u"\\VE";
+constexpr char16_t kDelimiter = u';';
+
+// The text without its first and last character where the first one is `pOpening`.
+std::u16string_view WithoutBrackets(std::u16string_view pText, std::u16string_view pOpening) {
+  if (pText.empty() || !runtime::EqualText(pText.substr(0, 1), pOpening)) return pText;
+  pText.remove_prefix(1);
+  return pText.substr(0, pText.size() - std::min<std::size_t>(pText.size(), 1));
+}
+
+// An empty text has no pieces; any other has one more than delimiters.
+std::int32_t CountPieces(std::u16string_view pText) {
+  return pText.empty() ? 0 : static_cast<std::int32_t>(std::count(pText.begin(), pText.end(), kDelimiter)) + 1;
+}
+
+std::u16string_view TakePiece(std::u16string_view& pText) {
+  const std::u16string_view piece = pText.substr(0, pText.find(kDelimiter));
+  pText.remove_prefix(std::min(piece.size() + 1, pText.size()));
+  return piece;
+}
+
+}  // namespace
+
+template <class Self, class Element>
+void TypedVector<Self, Element>::SetFromArray(const runtime::Array<Type>& InArray) {
+  if (!InArray.IsAllocated()) runtime::Raise(runtime::RuntimeError::SubscriptOutOfRange);
+  LetSize(InArray.Size());
+  storage_.CopyElements(InArray.Elements());
+}
+
+template <class Self, class Element>
+void TypedVector<Self, Element>::SetFromString(std::u16string_view pString) {
+  std::u16string_view rest = WithoutBrackets(WithoutBrackets(pString, u"("), u"{");
+  const std::int32_t count = CountPieces(rest);
+  try {
+    LetSize(count);
+  } catch (const runtime::AutomationError&) {
+    // As many slots as there are take their pieces.
+  }
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  for (std::int32_t i = 1; i <= std::min(count, storage_.Capacity()); ++i) {
+    Type value{};
+    if (Element::Read(TakePiece(rest), value, rules)) storage_.Store(i, std::move(value));
+  }
+}
+
+template <class Self, class Element>
+std::u16string TypedVector<Self, Element>::GetString() const {
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  std::u16string text = u"(";
+  for (std::int32_t i = 0; i < Size(); ++i) {
+    if (i > 0) text += kDelimiter;
+    Element::AppendText(text, Value(i + 1), rules);
+  }
+  text += u')';
+  return text;
+}
+
+template <class Self, class Element>
+std::int32_t TypedVector<Self, Element>::Index(Argument pValue, std::int32_t pStartIndex) const {
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  for (std::int32_t i = std::max(pStartIndex, 1) - 1; i < Size(); ++i)
+    if (Element::Equal(Value(i + 1), pValue, rules)) return i + 1;
+  return -1;
+}
+
+template <class Self, class Element>
+void TypedVector<Self, Element>::CopyFrom(const Self& pSource) {
+  LetSize(pSource.Size());
+  storage_.CopyElements(pSource.storage_);
+}
+
+template <class Self, class Element>
+runtime::Ref<Self> TypedVector<Self, Element>::GetCopy() const {
+  auto copy = runtime::New<Self>();
+  copy->CopyFrom(static_cast<const Self&>(*this));
+  return copy;
+}
+
+template <class Self, class Element>
+bool TypedVector<Self, Element>::IsEqual(const Self& pCompare) const {
+  if (Size() != pCompare.Size()) return false;
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  for (std::int32_t i = 0; i < Size(); ++i)
+    if (!Element::Equal(Value(i + 1), pCompare.Value(i + 1), rules)) return false;
+  return true;
+}
+
+template <class Self, class Element>
+void TypedVector<Self, Element>::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
+  if (pBuffer == nullptr) return;
+  if (!pAppend) pBuffer->Clear();
+  pBuffer->AddTag(kOpeningTag);
+  pBuffer->AddLong(Size());
+  for (std::int32_t i = 0; i < Size(); ++i) (pBuffer->*Element::kAdd)(Value(i + 1));
+  pBuffer->AddTag(kClosingTag);
+}
+
+// The tags are read and not checked.
+template <class Self, class Element>
+void TypedVector<Self, Element>::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
+  if (pBuffer == nullptr) return;
+  if (!pAppend) pBuffer->ResetPos();
+  pBuffer->NextTag();
+  LetSize(pBuffer->NextCount());
+  for (std::int32_t i = 0; i < Size(); ++i) storage_.Store(i + 1, (pBuffer->*Element::kNext)());
+  pBuffer->NextTag();
+}
+
+template class TypedVector<CDblVector, DoubleElement>;
+template class TypedVector<CLngVector, LongElement>;
+template class TypedVector<CStrVector, TextElement>;
+template class TypedVector<CBoolVector, BooleanElement>;
+
+}  // namespace qzbase

@@ -1,0 +1,244 @@
+// The one medium in which every class saves and loads itself: a growable byte array with a single cursor.
+//
+// A buffer is a header of six bytes and then records back to back, with no padding and no count. Whole numbers and
+// doubles are little-endian on every machine; n is a 32-bit count.
+//
+//   header               03 26 A6 15 AB, then a flag byte: above 0 the records carry markers ("typed")
+//
+//   marker  written by   read by      payload                                           record length
+//   1       AddTag       NextTag      n characters, then n bytes in the 8-bit code page  n + 5
+//   2       AddData      NextData     n bytes, then the bytes                            n + 5
+//   3       AddString    NextString   n bytes (two a character), then 16-bit text        n + 5
+//   4       AddDouble    NextDouble   8 bytes                                            9
+//   5       AddLong      NextLong     4 bytes                                            5
+//   6       AddBoolean   NextBoolean  1 byte: FF true, 00 false                          2
+//   7       AddDate      NextDate     8 bytes: days since 1899-12-30                     9
+//   8       AddByte      NextByte     1 byte                                             2
+//   9       AddColor     NextColor    4 bytes                                            5
+//
+//   CBuffer buffer;
+//   buffer.AddTag(u"ab");  // 01  02 00 00 00  61 62
+//   buffer.AddLong(7);     // 05  07 00 00 00
+//   buffer.ResetPos();
+//   buffer.NextTag();      // "ab"
+//   buffer.NextLong();     // 7
+//
+// Whoever reads calls the readers in the order of the writers. A record of another kind raises InvVarType and leaves
+// the cursor on its marker; only NextTag then gives "" instead, for that is how readers find the end of a list. At the
+// end of the data, and where a record was cut, readers give the zero value ("", 0, false, day 0, two zero bytes).
+//
+// Older buffers have no header, or a flag of 0. Their records have no markers and no tags, and every value read by
+// NextObject is preceded by one byte. They can be read; what is written always has markers.
+//
+// Counts in foreign bytes are not trusted: where one asks for over 65,536 bytes or elements more than bytes are left,
+// error 7 (out of memory) is raised before anything is allocated. Sizes past 32 bits raise error 6.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "qzbase/core/QZVarType.h"
+#include "qzbase/persist/BufferPrimitives.h"
+#include "qzbase/persist/RecordMarkers.h"
+#include "qzbase/runtime/Array.h"
+#include "qzbase/runtime/Date.h"
+#include "qzbase/runtime/Object.h"
+#include "qzbase/runtime/Variant.h"
+
+namespace qzbase {
+
+class CBuffer final : public runtime::Object {
+ public:
+  CBuffer() { Clear(); }
+
+  // Each writes one record at the cursor, which is the end of the data after `Clear` or when everything has been read.
+  // Anywhere else the bytes at the cursor are overwritten, while `Size` grows all the same.
+  void AddTag(std::u16string_view Arg);
+  void AddData(const runtime::Array<std::uint8_t>& Arg);  // from index 0; error 9 where the array begins above it
+  void AddString(std::u16string_view Arg);
+  void AddDouble(double Arg);
+  void AddDate(runtime::Date Arg);
+  void AddBoolean(bool Arg);
+  void AddLong(std::int32_t Arg);
+  void AddByte(std::uint8_t Arg);
+  void AddColor(std::int32_t Arg);
+
+  // Converts the value to the type and writes the type's record: EVTEnum as EVTLong, EVTInvalid as what the value is.
+  // Nothing is written for objects and for values without a type. Raises the errors of the conversion.
+  void AddObject(const runtime::Variant& Value, QZVarType VarType = EVTInvalid);
+
+  std::u16string NextTag();
+  runtime::Array<std::uint8_t> NextData();  // 0 to n - 1; from an untyped buffer 0 to n, the last byte zero
+  std::u16string NextString();
+  double NextDouble();
+  runtime::Date NextDate();
+  std::int32_t NextLong();
+  bool NextBoolean();
+  std::uint8_t NextByte();
+  std::int32_t NextColor();
+
+  // The value of a type's record; empty, and nothing read, for EVTObject and numbers that are no type. Without a type
+  // the byte at the cursor is taken as one: right only for untyped buffers, since markers are numbered otherwise.
+  runtime::Variant NextObject(QZVarType VarType = EVTInvalid);
+
+  // `NextLong` for the number of elements of a container, checked against the bytes left.
+  std::int32_t NextCount();
+
+  void ResetPos() { ReadHeader(); }                     // to the first record
+  void Clear();                                         // to an empty typed buffer; memory is kept until `Trim`
+  std::int32_t Size() const noexcept { return size_; }  // bytes in use, header included
+  void Trim();                                          // gives back the memory behind the data
+
+  // The upper bound of the storage as this format counts it: 2048 at first, size + 2048 whenever the size passes it.
+  // Memory itself grows by doubling.
+  std::int32_t Capacity() const noexcept { return capacity_; }
+
+  // One line for each tag, for people. Reads through the cursor, and raises what the readers raise.
+  std::u16string GetString();
+
+  // Bounds 0 to `Size`: one byte more than the data, so that the upper bound, which the let takes for the size, gives
+  // the same size again. Trims the storage.
+  runtime::Array<std::uint8_t> ByteArray() const;
+  void LetByteArray(const runtime::Array<std::uint8_t>& pBytes);  // error 9 where there is no byte 0
+
+  void CopyFrom(const CBuffer& pSource);
+  runtime::Ref<CBuffer> GetCopy() const;
+
+  std::int32_t CheckSum() const noexcept;
+
+  // Equal sizes and equal bytes from the second one to the one behind the data: the first byte never counts.
+  bool BinaryEqual(const CBuffer& pBuffer) const;
+
+ private:
+  void ReserveSpace(std::int32_t pCount);
+  void GrowBy(std::int32_t pCount);
+  std::int32_t WriteMarker(RecordMarker pMarker, std::int32_t pIndex) noexcept;
+  std::int32_t BeginRecord(RecordMarker pMarker, std::int32_t pLength);
+  std::int32_t BeginCounted(RecordMarker pMarker, std::size_t pLength);
+  void WriteHeader(std::uint8_t pFlag);
+
+  std::uint8_t PeekByte() const noexcept;
+  std::uint8_t ReadByte() noexcept;
+  bool CheckMarker(RecordMarker pExpected);
+  bool RefuseMarker(RecordMarker pExpected) const;
+  bool BeginRead(RecordMarker pMarker, std::int32_t pLength);
+  std::int32_t BytesLeft() const noexcept { return size_ - cursor_; }
+  std::int32_t NextTextLength();
+  std::uint8_t ReadHeader() noexcept;
+
+  void Adopt(std::vector<std::uint8_t> pBytes);
+  bool AppendNextItem(std::u16string& pText);
+
+  std::vector<std::uint8_t> bytes_;    // at least size_ + 1 bytes, zero behind what was written
+  mutable std::int32_t capacity_ = 0;  // bookkeeping only: handing out the bytes trims it
+  std::int32_t size_ = 0;
+  std::int32_t cursor_ = 0;  // next byte to read or write
+  bool typed_ = true;
+};
+
+// The records of fixed size. They are the bulk of every vector and matrix, so their bodies are here.
+
+inline void CBuffer::ReserveSpace(std::int32_t pCount) {
+  const bool fits =
+      pCount <= capacity_ - size_ && static_cast<std::size_t>(size_) + static_cast<std::size_t>(pCount) < bytes_.size();
+  if (!fits || cursor_ > size_) return GrowBy(pCount);
+  size_ += pCount;
+}
+
+inline std::int32_t CBuffer::WriteMarker(RecordMarker pMarker, std::int32_t pIndex) noexcept {
+  return AddByteToBuff(bytes_.data(), pIndex, static_cast<std::uint8_t>(pMarker));
+}
+
+// Makes room for a record whose payload has `pLength` bytes and gives the index of the payload.
+inline std::int32_t CBuffer::BeginRecord(RecordMarker pMarker, std::int32_t pLength) {
+  ReserveSpace(pLength + 1);
+  return WriteMarker(pMarker, cursor_);
+}
+
+inline void CBuffer::AddDouble(double Arg) {
+  const std::int32_t index = BeginRecord(RecordMarker::Double, sizeof Arg);
+  cursor_ = AddDoubleToBuff(bytes_.data(), index, Arg);
+}
+
+inline void CBuffer::AddDate(runtime::Date Arg) {
+  const std::int32_t index = BeginRecord(RecordMarker::Date, sizeof Arg.days);
+  cursor_ = AddDoubleToBuff(bytes_.data(), index, Arg.days);
+}
+
+inline void CBuffer::AddLong(std::int32_t Arg) {
+  const std::int32_t index = BeginRecord(RecordMarker::Long, sizeof Arg);
+  cursor_ = AddLongToBuff(bytes_.data(), index, Arg);
+}
+
+inline void CBuffer::AddColor(std::int32_t Arg) {
+  const std::int32_t index = BeginRecord(RecordMarker::Color, sizeof Arg);
+  cursor_ = AddLongToBuff(bytes_.data(), index, Arg);
+}
+
+inline void CBuffer::AddBoolean(bool Arg) {
+  const std::int32_t index = BeginRecord(RecordMarker::Boolean, 1);
+  cursor_ = AddByteToBuff(bytes_.data(), index, Arg ? 0xFF : 0x00);
+}
+
+inline void CBuffer::AddByte(std::uint8_t Arg) {
+  const std::int32_t index = BeginRecord(RecordMarker::Byte, sizeof Arg);
+  cursor_ = AddByteToBuff(bytes_.data(), index, Arg);
+}
+
+// Steps over the marker where it is the expected one. An untyped buffer has none to step over.
+inline bool CBuffer::CheckMarker(RecordMarker pExpected) {
+  if (!typed_) return true;
+  if (PeekByte() != static_cast<std::uint8_t>(pExpected)) return RefuseMarker(pExpected);
+  ++cursor_;
+  return true;
+}
+
+// The byte at the cursor; 0 at the end of the data.
+inline std::uint8_t CBuffer::PeekByte() const noexcept {
+  return cursor_ < size_ ? bytes_[static_cast<std::size_t>(cursor_)] : std::uint8_t{0};
+}
+
+// Whether a payload of so many bytes stands at the cursor, which is then behind the marker.
+inline bool CBuffer::BeginRead(RecordMarker pMarker, std::int32_t pLength) {
+  return CheckMarker(pMarker) && pLength <= BytesLeft();
+}
+
+inline double CBuffer::NextDouble() {
+  double value = 0;
+  if (BeginRead(RecordMarker::Double, sizeof value)) cursor_ = GetDoubleFromBuff(bytes_.data(), cursor_, value);
+  return value;
+}
+
+inline runtime::Date CBuffer::NextDate() {
+  runtime::Date value;
+  if (BeginRead(RecordMarker::Date, sizeof value.days)) cursor_ = GetDoubleFromBuff(bytes_.data(), cursor_, value.days);
+  return value;
+}
+
+inline std::int32_t CBuffer::NextLong() {
+  std::int32_t value = 0;
+  if (BeginRead(RecordMarker::Long, sizeof value)) cursor_ = GetLongFromBuff(bytes_.data(), cursor_, value);
+  return value;
+}
+
+inline std::int32_t CBuffer::NextColor() {
+  std::int32_t value = 0;
+  if (BeginRead(RecordMarker::Color, sizeof value)) cursor_ = GetLongFromBuff(bytes_.data(), cursor_, value);
+  return value;
+}
+
+inline bool CBuffer::NextBoolean() {
+  std::uint8_t value = 0;
+  if (BeginRead(RecordMarker::Boolean, sizeof value)) cursor_ = GetByteFromBuff(bytes_.data(), cursor_, value);
+  return value != 0;
+}
+
+inline std::uint8_t CBuffer::NextByte() {
+  std::uint8_t value = 0;
+  if (BeginRead(RecordMarker::Byte, sizeof value)) cursor_ = GetByteFromBuff(bytes_.data(), cursor_, value);
+  return value;
+}
+
+}  // namespace qzbase
