@@ -5,14 +5,20 @@
 // year means the current one.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
+#include "qzbase/os/Clock.h"
 #include "qzbase/runtime/Date.h"
 #include "qzbase/runtime/Locale.h"
 
 namespace qzbase::runtime {
 
+// Gives the year of a text without one; asked only then.
+using YearClock = std::int32_t (*)();
+
 // False, leaving `pDate` as it was, when the text is no date.
-bool ReadDate(std::u16string_view pText, Date& pDate, const LocaleRules& pRules = ThreadLocale());
+bool ReadDate(std::u16string_view pText, Date& pDate, const LocaleRules& pRules = ThreadLocale(),
+              YearClock pClock = os::CurrentYear);
 
 }  // namespace qzbase::runtime
