@@ -84,6 +84,7 @@ bool DateItems::ReadNumber(std::u16string_view& pRest) {
 }
 
 bool DateItems::ReadWord(std::u16string_view& pRest, const LocaleRules& pRules) {
+  if (pRest[0] < u'A') return false;  // delimiters, the most frequent case
   const DateWord word = FindWord(pRest, pRules);
   pRest.remove_prefix(word.length);
   switch (word.kind) {

@@ -1,6 +1,6 @@
 #include "qzbase/runtime/DatePattern.h"
 
-#include <algorithm>
+#include <cstddef>
 
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/DateTokens.h"
@@ -66,7 +66,8 @@ class PatternWriter {
   const DateParts& parts_;
   const LocaleRules& rules_;
   WeekRule week_;
-  bool hourSeen_ = false;  // the next m or mm is the minute
+  bool minuteNext_ = false;  // the next m or mm is the minute, which is written so once
+  bool minuteWritten_ = false;
   bool halfDaySeen_ = false;
 };
 
@@ -75,10 +76,10 @@ void PatternWriter::WriteToken(const DateToken& pToken, std::u16string_view pSpe
     case DateRole::Field:
       return WriteField(pToken.field);
     case DateRole::DayField:
-      hourSeen_ = false;
+      minuteNext_ = false;
       return WriteField(pToken.field);
     case DateRole::Hour:
-      hourSeen_ = true;
+      minuteNext_ = !minuteWritten_;
       return WriteField(HalfDayFollows(pRest) ? pToken.otherField : pToken.field);
     case DateRole::Month:
       return WriteMonth(pToken);
@@ -115,13 +116,14 @@ void PatternWriter::WriteToken(const DateToken& pToken, std::u16string_view pSpe
 }
 
 void PatternWriter::WriteDayPicture(std::u16string_view pPicture) {
-  hourSeen_ = false;
+  minuteNext_ = false;
   WritePicture(pPicture);
 }
 
 void PatternWriter::WriteMonth(const DateToken& pToken) {
-  WriteField(hourSeen_ ? pToken.otherField : pToken.field);
-  hourSeen_ = false;
+  WriteField(minuteNext_ ? pToken.otherField : pToken.field);
+  minuteWritten_ = minuteWritten_ || minuteNext_;
+  minuteNext_ = false;
 }
 
 void PatternWriter::WriteHalfDay(const DateToken& pToken, std::u16string_view pSpelled) {

@@ -1,7 +1,7 @@
 // Dates through patterns ("dd.mm.yyyy hh:nn:ss") and named formats ("Long Date", "Short Time").
 //
 //   d dd ddd dddd     day: 8 08 Mon Monday            h hh      hour          n nn  minute        s ss  second
-//   m mm mmm mmmm     month: 3 03 Mar March           m mm      minute, when an hour stands before it
+//   m mm mmm mmmm     month: 3 03 Mar March           m mm      minute: the first one behind an hour, no day between
 //   yy yyyy y         year: 04 2004; day of the year  q w ww    quarter, day of the week, week of the year
 //   ddddd dddddd      short and long date             ttttt c   long time; short date and long time
 //   am/pm a/p         half of the day as spelled      ampm      the locale's text for it

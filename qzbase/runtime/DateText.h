@@ -1,4 +1,4 @@
-// The default text of dates.
+// The default text of dates: "11/28/2031 8:15:42 PM", "11/28/2031" at midnight, "8:15:42 PM" on day 0.
 #pragma once
 
 #include <cstdint>

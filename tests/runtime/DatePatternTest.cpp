@@ -53,8 +53,8 @@ TEST(DatePatternTest, Patterns) {
       {u"h am/pm h", "8 pm 20"},          // only the hour before the mark has 12 hours
       {u"h \"am/pm\" h", "20 am/pm 20"},  // no mark at all
       {u"h A/P", "8 P"},
-      {u"h:m m", "20:15 11"},  // only the first m is the minute
-      {u"h d m", "20 28 11"},  // the day ends the time
+      {u"h:m m h:m", "20:15 11 20:11"},  // only the first m is the minute
+      {u"h d m", "20 28 11"},            // the day ends the time
       {u"h yyyy mmm m", "20 2031 nov. 15"},
       {u"yyyy\"", "2031"},
       {u"d\"open", "28open"},
