@@ -187,10 +187,10 @@ std::uint8_t CBuffer::ReadByte() noexcept {
   return value;
 }
 
-// A tag that is not there and the end of the data are answers; any other record is a fault.
-bool CBuffer::RefuseMarker(RecordMarker pExpected) const {
-  if (cursor_ < size_ && pExpected != RecordMarker::Tag) ModError::RaiseBuiltIn(BuiltInError::InvVarType);
-  return false;
+// A host that has given the registered error the number 0 has switched it off; reading on is no choice even then.
+void CBuffer::RaiseWrongMarker() {
+  ModError::RaiseBuiltIn(BuiltInError::InvVarType);
+  Raise(RuntimeError::TypeMismatch);
 }
 
 // Reads the count of a tag or string: as it is while that many bytes are left, 0 where the record was cut.

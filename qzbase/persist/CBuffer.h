@@ -122,7 +122,7 @@ class CBuffer final : public runtime::Object {
   std::uint8_t PeekByte() const noexcept;
   std::uint8_t ReadByte() noexcept;
   bool CheckMarker(RecordMarker pExpected);
-  bool RefuseMarker(RecordMarker pExpected) const;
+  [[noreturn]] static void RaiseWrongMarker();
   bool BeginRead(RecordMarker pMarker, std::int32_t pLength);
   std::int32_t BytesLeft() const noexcept { return size_ - cursor_; }
   std::int32_t NextTextLength();
@@ -187,10 +187,15 @@ inline void CBuffer::AddByte(std::uint8_t Arg) {
   cursor_ = AddByteToBuff(bytes_.data(), index, Arg);
 }
 
-// Steps over the marker where it is the expected one. An untyped buffer has none to step over.
+// Steps over the marker where it is the expected one; an untyped buffer has none to step over. A tag that is not there
+// and the end of the data are answers, any other record is a fault.
 inline bool CBuffer::CheckMarker(RecordMarker pExpected) {
   if (!typed_) return true;
-  if (PeekByte() != static_cast<std::uint8_t>(pExpected)) return RefuseMarker(pExpected);
+  if (cursor_ >= size_) return false;
+  if (PeekByte() != static_cast<std::uint8_t>(pExpected)) {
+    if (pExpected == RecordMarker::Tag) return false;
+    RaiseWrongMarker();
+  }
   ++cursor_;
   return true;
 }
