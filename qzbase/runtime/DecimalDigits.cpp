@@ -27,28 +27,37 @@ std::int32_t MantissaDigits(std::string_view pText) {
   return exponent > 1 ? exponent - 1 : exponent;
 }
 
+// Whether the last digit is all that has to be cut and lies in the middle.
+bool EndsHalfway(std::string_view pText, std::int32_t pMaxDigits) {
+  return MantissaDigits(pText) == pMaxDigits + 1 && pText[pText.find('e') - 1] == '5';
+}
+
 }  // namespace
 
 DecimalDigits::DecimalDigits(double pValue, std::int32_t pMaxDigits)
     : negative_(std::signbit(pValue)), finite_(std::isfinite(pValue)) {
   if (!finite_ || pValue == 0) return;
-  // The shortest text that reads back as the same number is the cheapest to make and, when it has no more digits than
-  // asked for, also the nearest number of so many digits; but for subnormal numbers, which carry fewer digits than 15.
-  // Only longer ones are rounded from the exact value.
+  // The shortest text that reads back as the same number is the cheapest to make. Cut to fewer digits it gives what the
+  // exact value gives: a middle between two results on the way from one to the other would itself be a text as short
+  // and nearer to the value. Only when the shortest text is such a middle the exact value has to decide; and subnormal
+  // numbers may have fewer digits in it than are asked for.
   Scientific buffer;
   std::string_view text = Write(buffer, std::fabs(pValue));
-  if (MantissaDigits(text) > pMaxDigits || !std::isnormal(pValue)) text = Write(buffer, std::fabs(pValue), pMaxDigits);
-
-  const std::size_t exponentMark = text.find('e');
-  digits_[0] = text[0];
-  if (exponentMark > 1)
-    std::copy(text.begin() + 2, text.begin() + static_cast<std::ptrdiff_t>(exponentMark), digits_.begin() + 1);
-  count_ = MantissaDigits(text);
-  std::string_view exponent = text.substr(exponentMark + 1);
-  if (exponent.front() == '+') exponent.remove_prefix(1);
-  std::from_chars(exponent.data(), exponent.data() + exponent.size(), point_);
-  ++point_;
+  if (EndsHalfway(text, pMaxDigits) || !std::isnormal(pValue)) text = Write(buffer, std::fabs(pValue), pMaxDigits);
+  Read(text);
+  if (count_ > pMaxDigits) RoundHalfAway(pMaxDigits - point_);
   CutTrailingZeros();
+}
+
+void DecimalDigits::Read(std::string_view pText) noexcept {
+  count_ = MantissaDigits(pText);
+  digits_[0] = pText[0];
+  for (std::int32_t i = 1; i < count_; ++i)
+    digits_[static_cast<std::size_t>(i)] = pText[static_cast<std::size_t>(i + 1)];
+  const std::size_t exponent = pText.find('e') + 1;
+  for (const char digit : pText.substr(exponent + 1)) point_ = point_ * 10 + (digit - '0');
+  if (pText[exponent] == '-') point_ = -point_;
+  ++point_;
 }
 
 void DecimalDigits::RoundHalfAway(std::int32_t pDecimals) noexcept {

@@ -44,6 +44,7 @@ class DecimalDigits {
   void RoundHalfAway(std::int32_t pDecimals) noexcept;
 
  private:
+  void Read(std::string_view pText) noexcept;  // "d.ddde-dd"
   void CutTrailingZeros() noexcept;
 
   std::array<char, kMaxDigits + 1> digits_{};
