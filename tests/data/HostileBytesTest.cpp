@@ -1,8 +1,6 @@
 // Every golden file, cut at every length and with every bit turned over, is loaded by everything that loads: only the
 // documented errors come, and no load asks for much memory.
-#include <cstdlib>
-#include <functional>
-#include <new>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -11,29 +9,10 @@
 #include "qzbase/data/CLngVector.h"
 #include "qzbase/data/CStrVector.h"
 #include "qzbase/runtime/Locale.h"
+#include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
 #include "tests/support/Corpus.h"
 #include "tests/support/ErrorOf.h"
-
-namespace {
-
-std::size_t g_requested = 0;  // bytes asked of operator new so far
-
-}  // namespace
-
-void* operator new(std::size_t pSize) {
-  g_requested += pSize;
-  if (void* memory = std::malloc(pSize > 0 ? pSize : 1)) return memory;
-  throw std::bad_alloc();
-}
-
-void operator delete(void* pMemory) noexcept {
-  std::free(pMemory);
-}
-
-void operator delete(void* pMemory, std::size_t) noexcept {
-  std::free(pMemory);
-}
 
 namespace qzbase::tests {
 namespace {
@@ -65,12 +44,12 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
   CBuffer buffer;
   for (std::size_t i = 0; i < std::size(kLoaders); ++i) {
     buffer.LetByteArray({0, pBytes});
-    const std::size_t before = g_requested;
+    const std::size_t before = RequestedBytes();
     const std::int32_t error = ErrorOf([&] { kLoaders[i](buffer); });
     const bool documented = error == 0 || error == kInvVarType || error == kInvalidArgument || error == kOverflow ||
                             error == kOutOfMemory || error == kSubscript;
     ASSERT_TRUE(documented) << pWhat << ", loader " << i << ": error " << error;
-    ASSERT_LT(g_requested - before, kMostMemory) << pWhat << ", loader " << i;
+    ASSERT_LT(RequestedBytes() - before, kMostMemory) << pWhat << ", loader " << i;
   }
 }
 
@@ -100,9 +79,9 @@ TEST(HostileBytes, CountsUpToTheToleranceLoadZeros) {
     buffer.AddTag(u"VE#1");
     buffer.AddLong(row.count);
     CStrVector vector;
-    const std::size_t before = g_requested;
+    const std::size_t before = RequestedBytes();
     EXPECT_EQ(ErrorOf([&] { vector.LoadFromBuffer(&buffer); }), row.error) << row.count;
-    EXPECT_LT(g_requested - before, kMostMemory);
+    EXPECT_LT(RequestedBytes() - before, kMostMemory);
     EXPECT_EQ(vector.Size(), row.error == 0 ? row.count : 0);
   }
 }

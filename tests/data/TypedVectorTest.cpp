@@ -66,30 +66,30 @@ struct Samples<CBoolVector> {
 
 template <class Vector>
 struct EveryVector : testing::Test {
-  using S = Samples<Vector>;
   ScopedLocale locale{TestLocale("en-US")};
-  Vector vector;
 };
 using AllVectors = testing::Types<CDblVector, CLngVector, CStrVector, CBoolVector>;
 TYPED_TEST_SUITE(EveryVector, AllVectors);
 
 TYPED_TEST(EveryVector, BeginsEmptyWithZeroSlots) {
-  EXPECT_EQ(this->vector.Size(), 0);
-  EXPECT_EQ(Shown(this->vector), "()");
-  const auto slots = this->vector.GetArray();
+  using S = Samples<TypeParam>;
+  TypeParam vector;
+  EXPECT_EQ(vector.Size(), 0);
+  EXPECT_EQ(Shown(vector), "()");
+  const auto slots = vector.GetArray();
   EXPECT_EQ(slots.LowerBound(), 1);
-  EXPECT_EQ(slots.UpperBound(), this->S::slots);
+  EXPECT_EQ(slots.UpperBound(), S::slots);
   const typename TypeParam::Type zero{};
   for (const auto& slot : slots) EXPECT_EQ(slot, zero);
-  for (const std::int32_t index : {kLeast, 0, this->S::slots + 1, kMost}) {
-    EXPECT_EQ(ErrorOf([&] { this->vector.Value(index); }), kSubscript) << index;
-    EXPECT_EQ(ErrorOf([&] { this->vector.LetValue(index, this->S::a); }), kSubscript) << index;
+  for (const std::int32_t index : {kLeast, 0, S::slots + 1, kMost}) {
+    EXPECT_EQ(ErrorOf([&] { vector.Value(index); }), kSubscript) << index;
+    EXPECT_EQ(ErrorOf([&] { vector.LetValue(index, S::a); }), kSubscript) << index;
   }
 }
 
 TYPED_TEST(EveryVector, InsertsAndDeletes) {
   using S = Samples<TypeParam>;
-  auto& vector = this->vector;
+  TypeParam vector;
   vector.AddValue(S::a);
   vector.InsertValue(7, S::a);  // past the end
   vector.InsertValue(2, S::b);
@@ -117,7 +117,7 @@ TYPED_TEST(EveryVector, InsertsAndDeletes) {
 
 TYPED_TEST(EveryVector, CopiesComparesAndReads) {
   using S = Samples<TypeParam>;
-  auto& vector = this->vector;
+  TypeParam vector;
   vector.SetFromString(FromUtf8(S::text));
   EXPECT_EQ(Shown(vector), S::text);
   const auto copy = vector.GetCopy();
@@ -149,10 +149,11 @@ TYPED_TEST(EveryVector, CopiesComparesAndReads) {
 
 TYPED_TEST(EveryVector, SavesTheGoldenBytesAndLoadsThem) {
   using S = Samples<TypeParam>;
-  Set(this->vector, S::Golden());
+  TypeParam vector;
+  Set(vector, S::Golden());
   CBuffer buffer;
   buffer.AddLong(1);  // gone unless the record is appended
-  this->vector.SaveToBuffer(&buffer);
+  vector.SaveToBuffer(&buffer);
   Bytes bytes = buffer.ByteArray().Elements();
   bytes.pop_back();
   const std::string golden = ReadTestFile(S::golden);
@@ -160,18 +161,18 @@ TYPED_TEST(EveryVector, SavesTheGoldenBytesAndLoadsThem) {
 
   TypeParam loaded;
   loaded.LoadFromBuffer(&buffer);
-  EXPECT_TRUE(loaded.IsEqual(this->vector)) << Shown(loaded);
-  this->vector.SaveToBuffer(&buffer, true);
+  EXPECT_TRUE(loaded.IsEqual(vector)) << Shown(loaded);
+  vector.SaveToBuffer(&buffer, true);
   loaded.LetSize(0);
   buffer.ResetPos();
   loaded.LoadFromBuffer(&buffer, true);
   loaded.LoadFromBuffer(&buffer, true);  // the second record
-  EXPECT_TRUE(loaded.IsEqual(this->vector));
+  EXPECT_TRUE(loaded.IsEqual(vector));
   EXPECT_EQ(buffer.NextTag(), u"");
 
   loaded.SaveToBuffer(nullptr);
   loaded.LoadFromBuffer(nullptr);
-  EXPECT_TRUE(loaded.IsEqual(this->vector));
+  EXPECT_TRUE(loaded.IsEqual(vector));
   CBuffer other;
   other.AddTag(u"");
   other.AddString(u"");

@@ -220,7 +220,9 @@ TEST(CBuffer, DoesNotTrustCounts) {
     std::string read;
     EXPECT_EQ(ErrorOf([&] { read = kReaders[row.reader].read(buffer); }), row.error) << row.records;
     EXPECT_EQ(read, row.read) << row.records;
-    if (row.error == 0) EXPECT_EQ(buffer.NextLong(), row.behind) << row.records;
+    if (row.error == 0) {
+      EXPECT_EQ(buffer.NextLong(), row.behind) << row.records;
+    }
   }
   CBuffer buffer;
   Load(buffer, "05 00 00 01 00");
@@ -354,7 +356,7 @@ TEST(CBuffer, DumpsItselfForPeople) {
       {"02 06 00 00 00 01 02 03 04 05 06", "#DATA#;"},
       {"05 07 00 00 00 0A 05", "7;INVALIDTYPE!!"},
       {"05 07 00 00 00 00 05", "7;INVALIDTYPE!!"},
-      {"05 07 00", "0;INVALIDTYPE!!"},
+      {"05 03 00", "0;;INVALIDTYPE!!"},  // behind a record that was cut, its bytes are taken for markers
   };
   for (const Row& row : rows) {
     CBuffer buffer;
