@@ -29,7 +29,11 @@ std::vector<T> InsertionSorted(const std::vector<T>& pValues, bool pAscending) {
 // Tells the two zeros apart.
 std::string Shown(const std::vector<double>& pValues) {
   std::string text;
-  for (const double value : pValues) text += (std::signbit(value) ? "-" : "+") + std::to_string(std::fabs(value)) + " ";
+  for (const double value : pValues) {
+    text += std::signbit(value) ? '-' : '+';
+    text += std::to_string(std::fabs(value));
+    text += ' ';
+  }
   return text;
 }
 

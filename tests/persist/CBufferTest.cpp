@@ -80,7 +80,7 @@ TEST(CBuffer, WritesTheBytesOfTheFormat) {
     EXPECT_EQ(Records(buffer), row.bytes) << row.what;
   }
   CBuffer buffer;
-  EXPECT_EQ(ErrorOf([&] { buffer.AddData({1, {7}}); }), kSubscript);
+  EXPECT_EQ(ErrorOf([&] { buffer.AddData(Array<std::uint8_t>(1, 1)); }), kSubscript);
   EXPECT_EQ(buffer.Size(), kHeaderSize);
 }
 
