@@ -43,8 +43,12 @@ class Argument {
   std::optional<T> converted_;
 };
 
+// What can be passed by reference and changed by it; objects are passed by reference without being replaced.
 template <class T>
-requires(!std::is_const_v<T>) class Argument<T&> {
+concept Changeable = !std::is_const_v<T> && !ObjectType<T>;
+
+template <Changeable T>
+class Argument<T&> {
  public:
   explicit Argument(runtime::Variant& pGiven) : given_(pGiven), value_(VariantValue<T>::From(pGiven)) {}
 
@@ -59,8 +63,9 @@ requires(!std::is_const_v<T>) class Argument<T&> {
 };
 
 // A variable that holds no record yet gets one.
-template <RecordType R>
-requires(!std::is_const_v<R>) class Argument<R&> {
+template <Changeable R>
+requires RecordType<R>
+class Argument<R&> {
  public:
   explicit Argument(runtime::Variant& pGiven) : given_(pGiven), record_(RecordIn<R>(pGiven)) {
     if (record_) value_ = record_->value;

@@ -38,7 +38,6 @@
 #include <cstdint>
 #include <span>
 #include <string_view>
-#include <tuple>
 
 #include "qzbase/automation/NameIndex.h"
 #include "qzbase/automation/Records.h"
@@ -92,66 +91,90 @@ constexpr void CheckParameters(const MemberDesc& pMember, std::span<const Parame
   }
 }
 
-constexpr void CheckPair(const MemberDesc& pFirst, const MemberDesc& pSecond) {
-  if (pFirst.kind == pSecond.kind) FaultTwoRowsOfOneNameAndKind();
-  if (pFirst.kind == MemberKind::Method || pSecond.kind == MemberKind::Method) FaultMethodAndPropertyOfOneName();
+// Whether the rows of one name, from its first one on, are of different kinds, and either one method or properties.
+constexpr void CheckKinds(std::span<const MemberDesc> pRows) {
+  std::array<bool, kMemberKinds> seen{};
+  std::size_t count = 0;
+  for (const MemberDesc& row : pRows) {
+    if (row.name != pRows.front().name) continue;
+    bool& kind = seen[static_cast<std::size_t>(row.kind)];
+    if (kind) FaultTwoRowsOfOneNameAndKind();
+    kind = true;
+    ++count;
+  }
+  if (count > 1 && seen[static_cast<std::size_t>(MemberKind::Method)]) FaultMethodAndPropertyOfOneName();
 }
 
-// Gives every member its id, and the rows of one property its help.
-constexpr void JoinRows(std::span<MemberDesc> pRows) {
+// Gives the rows of one name, from its first one on, their id, and what one of them says to all of them. True when that
+// is the default member.
+constexpr bool JoinRows(std::span<MemberDesc> pRows, MemberId pNext) {
+  const std::string_view name = pRows.front().name;
+  bool isDefault = false;
+  std::string_view help;
+  for (const MemberDesc& row : pRows) {
+    if (row.name != name) continue;
+    isDefault |= row.isDefault;
+    if (help.empty()) help = row.help;
+  }
+  if (help.empty()) FaultMemberWithoutHelp();
+  for (MemberDesc& row : pRows) {
+    if (row.name != name) continue;
+    row.id = isDefault ? kDefaultMember : pNext;
+    row.isDefault = isDefault;
+    if (row.help.empty()) row.help = help;
+  }
+  return isDefault;
+}
+
+constexpr void FinishRows(std::span<MemberDesc> pRows) {
   MemberId next = 1;
   for (std::size_t i = 0; i < pRows.size(); ++i) {
-    MemberDesc& row = pRows[i];
-    if (row.id != kNoMember) continue;
-    bool isDefault = row.isDefault;
-    std::string_view help = row.help;
-    for (std::size_t j = i + 1; j < pRows.size(); ++j) {
-      if (pRows[j].name != row.name) continue;
-      CheckPair(row, pRows[j]);
-      isDefault |= pRows[j].isDefault;
-      if (help.empty()) help = pRows[j].help;
-    }
-    if (help.empty()) FaultMemberWithoutHelp();
-    const MemberId id = isDefault ? kDefaultMember : next++;
-    for (std::size_t j = i; j < pRows.size(); ++j) {
-      if (pRows[j].name != pRows[i].name) continue;
-      pRows[j].id = id;
-      pRows[j].isDefault = isDefault;
-      if (pRows[j].help.empty()) pRows[j].help = help;
-    }
+    if (pRows[i].id != kNoMember) continue;
+    CheckKinds(pRows.subspan(i));
+    if (!JoinRows(pRows.subspan(i), next)) ++next;
   }
+}
+
+template <auto...>
+struct Functions {};
+template <auto... kLeft, auto... kRight>
+constexpr Functions<kLeft..., kRight...> operator+(Functions<kLeft...>, Functions<kRight...>) {
+  return {};
+}
+template <auto... kFunctions>
+constexpr Functions<kFunctions...> FunctionsOf(const Rows<kFunctions...>&) {
+  return {};
+}
+
+template <auto... kFunctions, class... Part>
+constexpr Rows<kFunctions...> Join(Functions<kFunctions...>, const Part&... pParts) {
+  Rows<kFunctions...> result;
+  std::size_t row = 0;
+  std::size_t parameter = 0;
+  const auto append = [&](std::span<const MemberDesc> pRows, std::span<const ParameterDesc> pParameters) {
+    for (const MemberDesc& each : pRows) {
+      result.rows[row] = each;
+      result.rows[row++].firstParameter = static_cast<std::uint16_t>(parameter + each.firstParameter);
+    }
+    for (const ParameterDesc& each : pParameters) result.parameters[parameter++] = each;
+  };
+  (append(pParts.rows, pParts.parameters), ...);
+  return result;
 }
 
 }  // namespace detail
 
-template <auto... kFunctions>
-struct Table {
-  static constexpr std::size_t kSize = sizeof...(kFunctions);
-  static constexpr std::size_t kParameterCount = (Row<kFunctions>::kCount + ... + 0);
-  template <std::size_t kSlot>
-  static constexpr auto kFunction = std::get<kSlot>(std::tuple(kFunctions...));
+// Rows that several classes have in common, to be put into their tables like one row.
+template <class... Part>
+constexpr auto rows(const Part&... pParts) {
+  return detail::Join((detail::Functions<>{} + ... + detail::FunctionsOf(pParts)), pParts...);
+}
 
-  std::array<MemberDesc, kSize> rows{};
-  std::array<ParameterDesc, kParameterCount> parameters{};
-
-  constexpr std::span<const ParameterDesc> Parameters(const MemberDesc& pRow) const {
-    return std::span(parameters).subspan(pRow.firstParameter, pRow.parameterCount);
-  }
-};
-
-template <auto... kFunctions>
-constexpr Table<kFunctions...> table(Row<kFunctions>... pRows) {
-  Table<kFunctions...> result;
-  std::size_t row = 0;
-  std::size_t parameter = 0;
-  const auto add = [&](const MemberDesc& pMember, std::span<const ParameterDesc> pParameters) {
-    detail::CheckParameters(pMember, pParameters);
-    result.rows[row] = pMember;
-    result.rows[row++].firstParameter = static_cast<std::uint16_t>(parameter);
-    for (const ParameterDesc& each : pParameters) result.parameters[parameter++] = each;
-  };
-  (add(pRows.member, pRows.parameters), ...);
-  detail::JoinRows(result.rows);
+template <class... Part>
+constexpr auto table(const Part&... pParts) {
+  auto result = rows(pParts...);
+  for (const MemberDesc& row : result.rows) detail::CheckParameters(row, result.Parameters(row));
+  detail::FinishRows(result.rows);
   return result;
 }
 

@@ -5,7 +5,9 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 #include "qzbase/automation/Types.h"
@@ -99,25 +101,37 @@ constexpr Parameter byRef(Parameter pParameter) {
 
 // ---- Rows.
 
-template <auto kFunction>
-struct Row {
-  using Parts = Signature<decltype(kFunction)>;
-  static constexpr std::size_t kCount = Parts::Parameters::kSize;
-  static_assert(kCount <= kMaxParameters);
+// One row a function, each with its parameters.
+template <auto... kFunctions>
+struct Rows {
+  static constexpr std::size_t kSize = sizeof...(kFunctions);
+  static constexpr std::size_t kParameterCount =
+      (Signature<decltype(kFunctions)>::Parameters::kSize + ... + std::size_t{0});
+  template <std::size_t kSlot>
+  static constexpr auto kFunction = std::get<kSlot>(std::tuple(kFunctions...));
 
-  MemberDesc member;
-  std::array<ParameterDesc, kCount> parameters{};
+  std::array<MemberDesc, kSize> rows{};
+  std::array<ParameterDesc, kParameterCount> parameters{};
+
+  constexpr std::span<const ParameterDesc> Parameters(const MemberDesc& pRow) const {
+    return std::span(parameters).subspan(pRow.firstParameter, pRow.parameterCount);
+  }
+};
+
+template <auto kFunction>
+struct Row : Rows<kFunction> {
+  static_assert(Row::kParameterCount <= kMaxParameters);
 
   // What is called when an object is used like a value or function.
   constexpr Row asDefault() const {
     Row row = *this;
-    row.member.isDefault = true;
+    row.rows[0].isDefault = true;
     return row;
   }
   // Not shown by editors.
   constexpr Row hidden() const {
     Row row = *this;
-    row.member.isHidden = true;
+    row.rows[0].isHidden = true;
     return row;
   }
   // The new value of a let is passed by reference.
@@ -159,21 +173,22 @@ struct RowMaker {
  private:
   template <std::size_t kNamed>
   static constexpr Row<kFunction> Make(const char* pName, const Parameter* pNamed, const char* pHelp) {
-    static_assert(kNamed + (kIsPut ? 1 : 0) == Row<kFunction>::kCount,
+    static_assert(kNamed + (kIsPut ? 1 : 0) == Row<kFunction>::kParameterCount,
                   "the row names more or fewer parameters than the function has");
-    Row<kFunction> row;
-    row.member.name = pName;
-    row.member.help = pHelp;
-    row.member.kind = kKind;
-    row.member.parameterCount = static_cast<std::uint8_t>(Row<kFunction>::kCount);
-    row.member.result = DescribeValue<std::remove_cvref_t<typename Parts::Result>>();
+    Row<kFunction> result;
+    MemberDesc& row = result.rows[0];
+    row.name = pName;
+    row.help = pHelp;
+    row.kind = kKind;
+    row.parameterCount = static_cast<std::uint8_t>(result.parameters.size());
+    row.result = DescribeValue<std::remove_cvref_t<typename Parts::Result>>();
     const auto types = DescribeAll(typename Parts::Parameters{});
     for (std::size_t i = 0; i < kNamed; ++i) {
-      row.parameters[i] = {pNamed[i].name, pNamed[i].defaultValue, types[i]};
-      row.parameters[i].type.isByRef |= pNamed[i].isByRef;
+      result.parameters[i] = {pNamed[i].name, pNamed[i].defaultValue, types[i]};
+      result.parameters[i].type.isByRef |= pNamed[i].isByRef;
     }
-    if constexpr (kIsPut) row.parameters.back() = {kNewValueName, {}, types.back()};
-    return row;
+    if constexpr (kIsPut) result.parameters.back() = {kNewValueName, {}, types.back()};
+    return result;
   }
 };
 

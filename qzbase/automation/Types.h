@@ -41,6 +41,19 @@ struct Identity {
   std::string_view help;           // one line
 };
 
+constexpr Identity ObjectClass(const char* pName, const char* pGuid, const char* pInterfaceGuid, const char* pHelp) {
+  return {IdentityKind::Class, pName, pGuid, pInterfaceGuid, pHelp};
+}
+constexpr Identity GlobalClass(const char* pName, const char* pGuid, const char* pInterfaceGuid, const char* pHelp) {
+  return {IdentityKind::GlobalClass, pName, pGuid, pInterfaceGuid, pHelp};
+}
+constexpr Identity RecordNamed(const char* pName, const char* pGuid, const char* pHelp) {
+  return {IdentityKind::Record, pName, pGuid, {}, pHelp};
+}
+constexpr Identity EnumerationNamed(const char* pName, const char* pGuid, const char* pHelp) {
+  return {IdentityKind::Enumeration, pName, pGuid, {}, pHelp};
+}
+
 // Specialised once for every class, record and enumeration of the public face.
 template <class T>
 inline constexpr Identity identity{};
@@ -80,6 +93,22 @@ template <class... T>
 struct TypeList {
   static constexpr std::size_t kSize = sizeof...(T);
 };
+
+namespace detail {
+
+template <class... List>
+struct Joined;
+template <class... T>
+struct Joined<TypeList<T...>> {
+  using Type = TypeList<T...>;
+};
+template <class... T, class... U, class... List>
+struct Joined<TypeList<T...>, TypeList<U...>, List...> : Joined<TypeList<T..., U...>, List...> {};
+
+}  // namespace detail
+
+template <class... List>
+using JoinLists = typename detail::Joined<List...>::Type;
 
 // The parts of a member function, static function or free function.
 template <class Function>
