@@ -1,10 +1,11 @@
-#include "qzbase/automation/com/Faces.h"
-//
+#include "qzbase/automation/com/ErrorBorder.h"
+
 #include <new>
 #include <string>
 #include <utility>
 
-#include "qzbase/automation/com/ErrorBorder.h"
+#include "qzbase/automation/Identities.h"
+#include "qzbase/automation/com/Faces.h"
 
 namespace qzbase::automation::com {
 namespace {
@@ -67,7 +68,7 @@ ErrorRecord CurrentError() {
 
 void CompleteSource(ErrorRecord& pError, const Face* pFace) {
   if (!pError.source.empty() || pError.number >= kFirstRegisteredError) return;
-  pError.source = pFace ? ProgId(*pFace) : std::u16string(kLibraryName);
+  pError.source = pFace ? ProgId(*pFace) : Widen(kLibraryName);
 }
 
 void SetThreadError(const ErrorRecord& pError, const Face* pFace) {

@@ -13,8 +13,6 @@
 
 namespace qzbase::automation::com {
 
-inline constexpr std::u16string_view kLibraryName = u"QZBase";
-
 struct Face {
   const ClassEntry* entry = nullptr;
   const void* slots = nullptr;  // the dual interface (Slots.h)
