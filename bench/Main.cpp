@@ -23,9 +23,10 @@ class RatioReporter : public benchmark::ConsoleReporter {
   void Finalize() override {
     std::printf("\n%-44s %s\n", "subject", "times its limit");
     for (const auto& [name, time] : times_) {
-      const auto limit = times_.find(name.substr(0, name.find('/')) + "/limit");
-      if (limit != times_.end() && limit->first != name)
-        std::printf("%-44s %8.2f\n", name.c_str(), time / limit->second);
+      const std::string limitName = name.substr(0, name.find('/')) + "/limit";
+      const auto limit = times_.lower_bound(limitName);
+      if (limit == times_.end() || !limit->first.starts_with(limitName) || limit->first == name) continue;
+      std::printf("%-44s %8.2f\n", name.c_str(), time / limit->second);
     }
   }
 

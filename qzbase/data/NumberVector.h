@@ -20,8 +20,8 @@ class NumberVector : public BlockVector<Self, Element> {
   using typename Base::Type;
 
   // The element nearest to the value from the start to the end index, or to the last element when the end is not behind
-  // the start; the first of several. Invalid values count as the numbers that they are. Error 6 where the distance of
-  // two longs leaves 32 bits.
+  // the start; the first of several. Invalid values count as the numbers that they are. Error 6 where a distance leaves
+  // the range of the numbers.
   typename Element::IndexOfClosest ClosestIndex(Type pValue, std::int32_t pStartIndex = 1,
                                                 std::int32_t pEndIndex = 0) const;
 
@@ -36,7 +36,7 @@ class NumberVector : public BlockVector<Self, Element> {
   Type Min() const;
   Type Max() const;
 
-  // Of the valid elements. Error 6 where a sum of longs leaves 32 bits.
+  // Of the valid elements. Error 6 where a sum leaves the range of the numbers.
   Type Sum() const;
 };
 

@@ -13,6 +13,7 @@
 #include <string>
 #include <string_view>
 
+#include "qzbase/core/Arithmetic.h"
 #include "qzbase/core/QZVarType.h"
 #include "qzbase/persist/CBuffer.h"
 #include "qzbase/runtime/CheckedNarrow.h"
@@ -52,8 +53,9 @@ struct DoubleElement : NumberElement<double> {
   static constexpr auto kAdd = &CBuffer::AddDouble;
   static constexpr auto kNext = &CBuffer::NextDouble;
 
-  static double Plus(double pLeft, double pRight) { return pLeft + pRight; }
-  static double Distance(double pLeft, double pRight) { return std::fabs(pLeft - pRight); }
+  // Both raise error 6 where finite numbers give an infinite one.
+  static double Plus(double pLeft, double pRight) { return Add(pLeft, pRight); }
+  static double Distance(double pLeft, double pRight) { return std::fabs(Add(pLeft, -pRight)); }
   static void AppendText(std::u16string& pText, double pValue, const runtime::LocaleRules& pRules) {
     runtime::AppendNumberText(pText, pValue, pRules);
   }

@@ -181,16 +181,21 @@ void CBuffer::AddString(std::u16string_view Arg) {
   cursor_ = AddWideStringToBuff(bytes_.data(), index, Arg);
 }
 
+// The byte at the cursor; 0 at the end of the data.
+std::uint8_t CBuffer::PeekByte() const noexcept {
+  return cursor_ < size_ ? bytes_[static_cast<std::size_t>(cursor_)] : std::uint8_t{0};
+}
+
 std::uint8_t CBuffer::ReadByte() noexcept {
   const std::uint8_t value = PeekByte();
   if (cursor_ < size_) ++cursor_;
   return value;
 }
 
-// A tag that is not there and the end of the data are answers; any other record is a fault.
-bool CBuffer::RefuseMarker(RecordMarker pExpected) const {
-  if (cursor_ < size_ && pExpected != RecordMarker::Tag) ModError::RaiseBuiltIn(BuiltInError::InvVarType);
-  return false;
+// A host that has given the registered error the number 0 has switched it off; reading on is no choice even then.
+void CBuffer::RaiseWrongMarker() {
+  ModError::RaiseBuiltIn(BuiltInError::InvVarType);
+  Raise(RuntimeError::TypeMismatch);
 }
 
 // Reads the count of a tag or string: as it is while that many bytes are left, 0 where the record was cut.
@@ -203,7 +208,7 @@ std::int32_t CBuffer::NextTextLength() {
 }
 
 std::u16string CBuffer::NextTag() {
-  if (!typed_ || !CheckMarker(RecordMarker::Tag)) return {};
+  if (!typed_ || !CheckMarker(RecordMarker::Tag, cursor_)) return {};
   const std::int32_t count = NextTextLength();
   if (count < 0) Raise(RuntimeError::SubscriptOutOfRange);
   std::string text(static_cast<std::size_t>(count), '\0');
@@ -213,7 +218,7 @@ std::u16string CBuffer::NextTag() {
 
 // A text has half as many characters as bytes; an odd byte at its end is passed over.
 std::u16string CBuffer::NextString() {
-  if (!CheckMarker(RecordMarker::String)) return {};
+  if (!CheckMarker(RecordMarker::String, cursor_)) return {};
   const std::int32_t count = std::max(NextTextLength(), 0);
   std::u16string text(static_cast<std::size_t>(count) / sizeof(char16_t), u'\0');
   GetWideStringFromBuff(bytes_.data(), cursor_, text);
@@ -223,7 +228,7 @@ std::u16string CBuffer::NextString() {
 
 Array<std::uint8_t> CBuffer::NextData() {
   Array<std::uint8_t> data(0, 1);
-  if (!BeginRead(RecordMarker::Data, kCountSize)) return data;
+  if (!CheckMarker(RecordMarker::Data, cursor_) || BytesLeft() < kCountSize) return data;
   std::int32_t count = 0;
   cursor_ = GetLongFromBuff(bytes_.data(), cursor_, count);
   const auto end = CheckedNarrow<std::int32_t>(std::int64_t{cursor_} + count);

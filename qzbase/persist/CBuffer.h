@@ -117,13 +117,16 @@ class CBuffer final : public runtime::Object {
   std::int32_t WriteMarker(RecordMarker pMarker, std::int32_t pIndex) noexcept;
   std::int32_t BeginRecord(RecordMarker pMarker, std::int32_t pLength);
   std::int32_t BeginCounted(RecordMarker pMarker, std::size_t pLength);
+  template <auto AddToBuff, class Value>
+  void AddFixed(RecordMarker pMarker, Value pValue);
   void WriteHeader(std::uint8_t pFlag);
 
   std::uint8_t PeekByte() const noexcept;
   std::uint8_t ReadByte() noexcept;
-  bool CheckMarker(RecordMarker pExpected);
-  bool RefuseMarker(RecordMarker pExpected) const;
-  bool BeginRead(RecordMarker pMarker, std::int32_t pLength);
+  bool CheckMarker(RecordMarker pExpected, std::int32_t& pIndex) const;
+  [[noreturn]] static void RaiseWrongMarker();
+  template <auto GetFromBuff, class Value>
+  Value NextFixed(RecordMarker pMarker);
   std::int32_t BytesLeft() const noexcept { return size_ - cursor_; }
   std::int32_t NextTextLength();
   std::uint8_t ReadHeader() noexcept;
@@ -138,7 +141,8 @@ class CBuffer final : public runtime::Object {
   bool typed_ = true;
 };
 
-// The records of fixed size. They are the bulk of every vector and matrix, so their bodies are here.
+// The records of fixed size. They are the bulk of every vector and matrix, so their bodies are here, and read the
+// cursor once and set it once: a loop over records then keeps it in a register.
 
 inline void CBuffer::ReserveSpace(std::int32_t pCount) {
   const bool fits =
@@ -157,88 +161,72 @@ inline std::int32_t CBuffer::BeginRecord(RecordMarker pMarker, std::int32_t pLen
   return WriteMarker(pMarker, cursor_);
 }
 
-inline void CBuffer::AddDouble(double Arg) {
-  const std::int32_t index = BeginRecord(RecordMarker::Double, sizeof Arg);
-  cursor_ = AddDoubleToBuff(bytes_.data(), index, Arg);
+template <auto AddToBuff, class Value>
+void CBuffer::AddFixed(RecordMarker pMarker, Value pValue) {
+  const std::int32_t index = BeginRecord(pMarker, sizeof pValue);
+  cursor_ = AddToBuff(bytes_.data(), index, pValue);
 }
 
-inline void CBuffer::AddDate(runtime::Date Arg) {
-  const std::int32_t index = BeginRecord(RecordMarker::Date, sizeof Arg.days);
-  cursor_ = AddDoubleToBuff(bytes_.data(), index, Arg.days);
-}
-
-inline void CBuffer::AddLong(std::int32_t Arg) {
-  const std::int32_t index = BeginRecord(RecordMarker::Long, sizeof Arg);
-  cursor_ = AddLongToBuff(bytes_.data(), index, Arg);
-}
-
-inline void CBuffer::AddColor(std::int32_t Arg) {
-  const std::int32_t index = BeginRecord(RecordMarker::Color, sizeof Arg);
-  cursor_ = AddLongToBuff(bytes_.data(), index, Arg);
-}
-
-inline void CBuffer::AddBoolean(bool Arg) {
-  const std::int32_t index = BeginRecord(RecordMarker::Boolean, 1);
-  cursor_ = AddByteToBuff(bytes_.data(), index, Arg ? 0xFF : 0x00);
-}
-
-inline void CBuffer::AddByte(std::uint8_t Arg) {
-  const std::int32_t index = BeginRecord(RecordMarker::Byte, sizeof Arg);
-  cursor_ = AddByteToBuff(bytes_.data(), index, Arg);
-}
-
-// Steps over the marker where it is the expected one. An untyped buffer has none to step over.
-inline bool CBuffer::CheckMarker(RecordMarker pExpected) {
+// Moves the index behind the marker where it is the expected one; an untyped buffer has none to step over. A tag that
+// is not there and the end of the data are answers, any other record is a fault.
+inline bool CBuffer::CheckMarker(RecordMarker pExpected, std::int32_t& pIndex) const {
   if (!typed_) return true;
-  if (PeekByte() != static_cast<std::uint8_t>(pExpected)) return RefuseMarker(pExpected);
-  ++cursor_;
+  if (pIndex >= size_) return false;
+  if (bytes_[static_cast<std::size_t>(pIndex)] != static_cast<std::uint8_t>(pExpected)) {
+    if (pExpected == RecordMarker::Tag) return false;
+    RaiseWrongMarker();
+  }
+  ++pIndex;
   return true;
 }
 
-// The byte at the cursor; 0 at the end of the data.
-inline std::uint8_t CBuffer::PeekByte() const noexcept {
-  return cursor_ < size_ ? bytes_[static_cast<std::size_t>(cursor_)] : std::uint8_t{0};
+// Zero where the data ends, before the record or within it.
+template <auto GetFromBuff, class Value>
+Value CBuffer::NextFixed(RecordMarker pMarker) {
+  Value value{};
+  std::int32_t index = cursor_;
+  if (CheckMarker(pMarker, index) && static_cast<std::int32_t>(sizeof value) <= size_ - index)
+    index = GetFromBuff(bytes_.data(), index, value);
+  cursor_ = index;
+  return value;
 }
 
-// Whether a payload of so many bytes stands at the cursor, which is then behind the marker.
-inline bool CBuffer::BeginRead(RecordMarker pMarker, std::int32_t pLength) {
-  return CheckMarker(pMarker) && pLength <= BytesLeft();
+inline void CBuffer::AddDouble(double Arg) {
+  AddFixed<&AddDoubleToBuff>(RecordMarker::Double, Arg);
+}
+inline void CBuffer::AddDate(runtime::Date Arg) {
+  AddFixed<&AddDoubleToBuff>(RecordMarker::Date, Arg.days);
+}
+inline void CBuffer::AddLong(std::int32_t Arg) {
+  AddFixed<&AddLongToBuff>(RecordMarker::Long, Arg);
+}
+inline void CBuffer::AddColor(std::int32_t Arg) {
+  AddFixed<&AddLongToBuff>(RecordMarker::Color, Arg);
+}
+inline void CBuffer::AddByte(std::uint8_t Arg) {
+  AddFixed<&AddByteToBuff>(RecordMarker::Byte, Arg);
+}
+inline void CBuffer::AddBoolean(bool Arg) {
+  AddFixed<&AddByteToBuff>(RecordMarker::Boolean, Arg ? std::uint8_t{0xFF} : std::uint8_t{0x00});
 }
 
 inline double CBuffer::NextDouble() {
-  double value = 0;
-  if (BeginRead(RecordMarker::Double, sizeof value)) cursor_ = GetDoubleFromBuff(bytes_.data(), cursor_, value);
-  return value;
+  return NextFixed<&GetDoubleFromBuff, double>(RecordMarker::Double);
 }
-
 inline runtime::Date CBuffer::NextDate() {
-  runtime::Date value;
-  if (BeginRead(RecordMarker::Date, sizeof value.days)) cursor_ = GetDoubleFromBuff(bytes_.data(), cursor_, value.days);
-  return value;
+  return {NextFixed<&GetDoubleFromBuff, double>(RecordMarker::Date)};
 }
-
 inline std::int32_t CBuffer::NextLong() {
-  std::int32_t value = 0;
-  if (BeginRead(RecordMarker::Long, sizeof value)) cursor_ = GetLongFromBuff(bytes_.data(), cursor_, value);
-  return value;
+  return NextFixed<&GetLongFromBuff, std::int32_t>(RecordMarker::Long);
 }
-
 inline std::int32_t CBuffer::NextColor() {
-  std::int32_t value = 0;
-  if (BeginRead(RecordMarker::Color, sizeof value)) cursor_ = GetLongFromBuff(bytes_.data(), cursor_, value);
-  return value;
+  return NextFixed<&GetLongFromBuff, std::int32_t>(RecordMarker::Color);
 }
-
-inline bool CBuffer::NextBoolean() {
-  std::uint8_t value = 0;
-  if (BeginRead(RecordMarker::Boolean, sizeof value)) cursor_ = GetByteFromBuff(bytes_.data(), cursor_, value);
-  return value != 0;
-}
-
 inline std::uint8_t CBuffer::NextByte() {
-  std::uint8_t value = 0;
-  if (BeginRead(RecordMarker::Byte, sizeof value)) cursor_ = GetByteFromBuff(bytes_.data(), cursor_, value);
-  return value;
+  return NextFixed<&GetByteFromBuff, std::uint8_t>(RecordMarker::Byte);
+}
+inline bool CBuffer::NextBoolean() {
+  return NextFixed<&GetByteFromBuff, std::uint8_t>(RecordMarker::Boolean) != 0;
 }
 
 }  // namespace qzbase

@@ -4,6 +4,7 @@
 // forward all the same: -1.25 is 06:00 on the day before day 0.
 #pragma once
 
+#include <compare>
 #include <cstdint>
 
 namespace qzbase::runtime {
@@ -25,14 +26,17 @@ struct DateParts {
   std::int32_t hour = 0;
   std::int32_t minute = 0;
   std::int32_t second = 0;
+
+  bool operator==(const DateParts&) const = default;
 };
 
 // Raises error 5 (invalid argument) outside the calendar's years.
 DateParts SplitDate(Date pDate);
 
-// The day count of a calendar day and time of day. The parts must be valid (`IsValidDay`).
+// The day count of a calendar day and time of day. The parts must be valid (`IsValidDay`, hours below 24 and so on).
 Date MakeDate(const DateParts& pParts);
 
+// A day of the calendar, and one of the years 100 to 9999.
 bool IsValidDay(std::int32_t pYear, std::int32_t pMonth, std::int32_t pDay);
 
 // 0 Monday to 6 Sunday.

@@ -1,18 +1,29 @@
 // Recognises dates and times in texts as users of a locale write them.
 //
-// The locale's order of day, month and year is tried first, then every other order that gives a valid day; only the
-// locale's own month names count. A bare number is no date. Two-digit years run from 1930 to 2029; a text without a
-// year means the current one.
+// The locale's order is tried first, then year-month-day, month-day-year, day-month-year and year-day-month, until one
+// gives a valid day. Only the locale's own names of months count, A to Z in any case; a named month keeps its place.
+// Two items are a day of the current year, else a month of a year. A bare number is no date. Two-digit years run from
+// 1930 to 2029. The time stands before or behind the date, or alone.
+//
+//   en-US: "11/28/2031"  "28/11/2031"  "28 Nov"  "Nov 2031" (the 1st)  "8:15 PM"  "Friday, 28-Nov-31 20:15"
+//   de-DE: "28.11.2031 20:15:42"  "1. März 2031"
+//   none:  "45000"  "Nov"  "29.2.2031"  "20:15 Uhr"
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
+#include "qzbase/os/Clock.h"
 #include "qzbase/runtime/Date.h"
 #include "qzbase/runtime/Locale.h"
 
 namespace qzbase::runtime {
 
+// Gives the year of a text without one; asked only then.
+using YearClock = std::int32_t (*)();
+
 // False, leaving `pDate` as it was, when the text is no date.
-bool ReadDate(std::u16string_view pText, Date& pDate, const LocaleRules& pRules = ThreadLocale());
+bool ReadDate(std::u16string_view pText, Date& pDate, const LocaleRules& pRules = ThreadLocale(),
+              YearClock pClock = os::CurrentYear);
 
 }  // namespace qzbase::runtime

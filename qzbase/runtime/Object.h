@@ -57,4 +57,10 @@ class Object : public std::enable_shared_from_this<Object> {
 
 }  // namespace qzbase::runtime
 
+// The library's own users make and hold objects without naming the room.
+namespace qzbase {
+using runtime::New;
+using runtime::Ref;
+}  // namespace qzbase
+
 #include "qzbase/runtime/Variant.h"

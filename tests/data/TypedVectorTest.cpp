@@ -1,0 +1,429 @@
+#include <functional>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "qzbase/data/CBoolVector.h"
+#include "qzbase/data/CDblVector.h"
+#include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CStrVector.h"
+#include "qzbase/runtime/Locale.h"
+#include "tests/support/Bytes.h"
+#include "tests/support/Corpus.h"
+#include "tests/support/ErrorOf.h"
+
+namespace qzbase::tests {
+namespace {
+
+using runtime::Array;
+using runtime::ScopedLocale;
+
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+
+template <class Vector>
+Vector& Set(Vector& pVector, std::vector<typename Vector::Type> pValues) {
+  pVector.SetFromArray({0, std::move(pValues)});
+  return pVector;
+}
+
+template <class Vector>
+std::string Shown(const Vector& pVector) {
+  return ToUtf8(pVector.GetString());
+}
+
+// What all four have, over the values that each of them distinguishes.
+template <class Vector>
+struct Samples;
+template <>
+struct Samples<CDblVector> {
+  static constexpr double a = 1.5, b = 2;
+  static constexpr const char *text = "(1.5;2;1.5)", *golden = "golden/CDblVector.bin";
+  static constexpr std::int32_t slots = 16;
+  static std::vector<double> Golden() { return {1.5, kInvalidDouble, -0.0, 1e308}; }
+};
+template <>
+struct Samples<CLngVector> {
+  static constexpr std::int32_t a = 1, b = -2;
+  static constexpr const char *text = "(1;-2;1)", *golden = "golden/CLngVector.bin";
+  static constexpr std::int32_t slots = 16;
+  static std::vector<std::int32_t> Golden() { return {7, kInvalidLong, kMost}; }
+};
+template <>
+struct Samples<CStrVector> {
+  static constexpr std::u16string_view a = u"x", b = u"~";
+  static constexpr const char *text = "(x;~;x)", *golden = "golden/CStrVector.bin";
+  static constexpr std::int32_t slots = 16;
+  static std::vector<std::u16string> Golden() { return {u"a;b", u"~", u"", u"\u00C4\u4E2D"}; }
+};
+template <>
+struct Samples<CBoolVector> {
+  static constexpr bool a = true, b = false;
+  static constexpr const char *text = "(True;False;True)", *golden = "golden/CBoolVector.bin";
+  static constexpr std::int32_t slots = 1;
+  static std::vector<bool> Golden() { return {true, false, true}; }
+};
+
+template <class Vector>
+struct EveryVector : testing::Test {
+  ScopedLocale locale{TestLocale("en-US")};
+};
+using AllVectors = testing::Types<CDblVector, CLngVector, CStrVector, CBoolVector>;
+TYPED_TEST_SUITE(EveryVector, AllVectors);
+
+TYPED_TEST(EveryVector, BeginsEmptyWithZeroSlots) {
+  using S = Samples<TypeParam>;
+  TypeParam vector;
+  EXPECT_EQ(vector.Size(), 0);
+  EXPECT_EQ(Shown(vector), "()");
+  const auto slots = vector.GetArray();
+  EXPECT_EQ(slots.LowerBound(), 1);
+  EXPECT_EQ(slots.UpperBound(), S::slots);
+  const typename TypeParam::Type zero{};
+  for (const auto& slot : slots) EXPECT_EQ(slot, zero);
+  for (const std::int32_t index : {kLeast, 0, S::slots + 1, kMost}) {
+    EXPECT_EQ(ErrorOf([&] { vector.Value(index); }), kSubscript) << index;
+    EXPECT_EQ(ErrorOf([&] { vector.LetValue(index, S::a); }), kSubscript) << index;
+  }
+}
+
+TYPED_TEST(EveryVector, InsertsAndDeletes) {
+  using S = Samples<TypeParam>;
+  TypeParam vector;
+  vector.AddValue(S::a);
+  vector.InsertValue(7, S::a);  // past the end
+  vector.InsertValue(2, S::b);
+  EXPECT_EQ(Shown(vector), S::text);
+  EXPECT_EQ(vector.Index(S::a), 1);
+  EXPECT_EQ(vector.Index(S::a, -5), 1);
+  EXPECT_EQ(vector.Index(S::a, 2), 3);
+  EXPECT_EQ(vector.Index(S::a, 4), -1);
+  EXPECT_EQ(vector.Index(S::b, kMost), -1);
+
+  vector.DeleteValue(1);
+  EXPECT_EQ(vector.Value(1), S::b);
+  EXPECT_EQ(vector.Value(2), S::a);
+  vector.DeleteValue(kMost);  // moves nothing, but drops the last one
+  EXPECT_EQ(vector.Size(), 1);
+  EXPECT_EQ(vector.Value(1), S::b);
+  EXPECT_EQ(ErrorOf([&] { vector.DeleteValue(0); }), kSubscript);
+  EXPECT_EQ(vector.Size(), 1);
+  for (int i = 0; i < 40; ++i) vector.InsertValue(1, vector.Value(1));  // an argument that refers to a slot
+  vector.DeleteValue(41);
+  vector.DeleteValue(0 + 1);
+  EXPECT_EQ(vector.Size(), 39);
+  for (int i = 1; i <= 39; ++i) EXPECT_EQ(vector.Value(i), S::b);
+}
+
+TYPED_TEST(EveryVector, CopiesComparesAndReads) {
+  using S = Samples<TypeParam>;
+  TypeParam vector;
+  vector.SetFromString(FromUtf8(S::text));
+  EXPECT_EQ(Shown(vector), S::text);
+  const auto copy = vector.GetCopy();
+  EXPECT_TRUE(copy->IsEqual(vector));
+  copy->LetValue(2, S::a);
+  EXPECT_FALSE(copy->IsEqual(vector));
+  copy->CopyFrom(vector);
+  EXPECT_TRUE(copy->IsEqual(vector));
+  copy->CopyFrom(*copy);
+  EXPECT_EQ(Shown(*copy), S::text);
+  copy->LetSize(2);
+  EXPECT_FALSE(copy->IsEqual(vector));
+  EXPECT_FALSE(vector.IsEqual(*copy));
+
+  TypeParam longer;
+  longer.LetSize(100);
+  for (int i = 1; i <= 100; ++i) longer.LetValue(i, S::a);
+  TypeParam unwritten;
+  unwritten.LetSize(100);
+  longer.CopyFrom(unwritten);  // slots that take no memory copy as the zeros that they are
+  EXPECT_TRUE(longer.IsEqual(unwritten));
+  EXPECT_EQ(longer.Value(100), typename TypeParam::Type{});
+
+  vector.SetFromArray({-3, {typename TypeParam::Type(S::b), typename TypeParam::Type(S::a)}});
+  EXPECT_EQ(vector.Size(), 2);
+  EXPECT_EQ(vector.Value(1), S::b);
+  EXPECT_EQ(ErrorOf([&] { vector.SetFromArray({}); }), kSubscript);
+}
+
+TYPED_TEST(EveryVector, SavesTheGoldenBytesAndLoadsThem) {
+  using S = Samples<TypeParam>;
+  TypeParam vector;
+  Set(vector, S::Golden());
+  CBuffer buffer;
+  buffer.AddLong(1);  // gone unless the record is appended
+  vector.SaveToBuffer(&buffer);
+  Bytes bytes = buffer.ByteArray().Elements();
+  bytes.pop_back();
+  const std::string golden = ReadTestFile(S::golden);
+  EXPECT_EQ(ToHex(bytes), ToHex(Bytes(golden.begin(), golden.end())));
+
+  TypeParam loaded;
+  loaded.LoadFromBuffer(&buffer);
+  EXPECT_TRUE(loaded.IsEqual(vector)) << Shown(loaded);
+  vector.SaveToBuffer(&buffer, true);
+  loaded.LetSize(0);
+  buffer.ResetPos();
+  loaded.LoadFromBuffer(&buffer, true);
+  loaded.LoadFromBuffer(&buffer, true);  // the second record
+  EXPECT_TRUE(loaded.IsEqual(vector));
+  EXPECT_EQ(buffer.NextTag(), u"");
+
+  loaded.SaveToBuffer(nullptr);
+  loaded.LoadFromBuffer(nullptr);
+  EXPECT_TRUE(loaded.IsEqual(vector));
+  CBuffer other;
+  other.AddTag(u"");
+  other.AddString(u"");
+  EXPECT_EQ(ErrorOf([&] { loaded.LoadFromBuffer(&other); }), NumberOf(BuiltInError::InvVarType));
+}
+
+// The capacity, as `Value` shows it.
+template <class Vector>
+std::int32_t CapacityOf(const Vector& pVector) {
+  std::int32_t low = 0, high = kMost;
+  while (low < high) {
+    const std::int32_t middle = low + (high - low) / 2 + 1;
+    if (ErrorOf([&] { pVector.Value(middle); }) == 0)
+      low = middle;
+    else
+      high = middle - 1;
+  }
+  return low;
+}
+
+TEST(CDblVector, KeepsItsSlotsInBlocks) {
+  struct Row {
+    std::int32_t blockSize;
+    std::int32_t size;
+    std::int32_t error;
+    std::int32_t capacity;
+  };
+  const Row rows[] = {
+      {16, 16, 0, 16},
+      {16, 17, 0, 32},
+      {16, -5, 0, 16},
+      {16, kLeast, kOverflow, 16},
+      {1, 0, 0, 1},
+      {1, 5, 0, 5},
+      {1, kMost, 0, kMost},  // slots that were never written take no memory
+      {10, 5, 0, 16},        // one block before and after: nothing happens
+      {10, 12, 0, 20},
+      {1 << 30, 5, 0, 1 << 30},
+      {1 << 30, (1 << 30) + 1, kOverflow, 1 << 30},
+      {0, 1, kDivisionByZero, 16},
+      {-4, 1, kSubscript, 16},
+      {16, 524'288, 0, 524'288},
+  };
+  for (const Row& row : rows) {
+    CDblVector vector;
+    const bool valid = row.blockSize > 0;
+    EXPECT_EQ(ErrorOf([&] { vector.LetBlockSize(row.blockSize); }), valid ? 0 : row.error);
+    EXPECT_EQ(ErrorOf([&] { vector.LetSize(row.size); }), row.error) << row.blockSize << " " << row.size;
+    EXPECT_EQ(vector.Size(), row.size);  // set first, and kept
+    EXPECT_EQ(CapacityOf(vector), row.capacity) << row.blockSize << " " << row.size;
+  }
+}
+
+TEST(CDblVector, FailsForeverPast32767Blocks) {
+  CDblVector vector;
+  vector.LetSize(32'767 * 16);
+  vector.AddValue(1);  // the block before is counted
+  EXPECT_EQ(CapacityOf(vector), 32'768 * 16);
+  EXPECT_EQ(ErrorOf([&] { vector.AddValue(2); }), kOverflow);
+  EXPECT_EQ(vector.Size(), 32'767 * 16 + 2);
+  EXPECT_EQ(ErrorOf([&] { vector.LetSize(1); }), kOverflow);
+  EXPECT_EQ(vector.Size(), 1);
+  EXPECT_EQ(ErrorOf([&] { vector.LetSize(kMost); }), kOverflow);
+  EXPECT_EQ(ErrorOf([&] { vector.AddValue(3); }), kOverflow);  // the size itself
+  EXPECT_EQ(ErrorOf([&] { vector.Sort(); }), kSubscript);      // elements without slots
+}
+
+TEST(CDblVector, ShowsWhatSlotsHeldBefore) {
+  CDblVector vector;
+  Set(vector, {1, 2, 3});
+  vector.LetValue(5, 5);
+  vector.LetSize(5);
+  EXPECT_EQ(Shown(vector), "(1;2;3;0;5)");
+  vector.DeleteValue(4);
+  EXPECT_EQ(vector.Value(5), 5);
+  vector.LetSize(17);
+  vector.LetValue(17, 17);
+  vector.LetSize(16);  // the second block is forgotten
+  vector.LetSize(17);
+  EXPECT_EQ(vector.Value(17), 0);
+  vector.LetSize(-1);
+  EXPECT_EQ(Shown(vector), "()");
+  EXPECT_EQ(ErrorOf([&] { vector.AddValue(1); }), kSubscript);  // no slot 0
+  EXPECT_EQ(vector.Size(), 0);
+  vector.DeleteValue(1);
+  EXPECT_EQ(vector.Size(), -1);
+}
+
+TEST(CDblVector, FindsTheClosestElement) {
+  struct Row {
+    std::vector<double> values;
+    double value;
+    std::int32_t start, end;
+    std::int32_t closest, left, right;  // 0: error 9
+  };
+  const Row rows[] = {
+      {{1, 2, 3, 2.4}, 2.4, 1, 0, 4, 4, 3},
+      {{1, 3}, 2, 1, 0, 1, 1, 2},
+      {{1, 2}, 0, 1, 0, 1, 1, 1},
+      {{1, 2}, 9, 1, 0, 2, 2, 2},
+      {{1, 2, 3, 4}, 4, 1, 3, 3, 4, 4},
+      {{4, 2, 3, 4}, 4, 2, 1, 4, 4, 1},
+      {{4, 2, 3, 4}, 4, 2, 2, 4, 4, 1},
+      {{1, 2}, 2, 20, 0, 0, 2, 2},
+      {{1, 2}, 0.4, 16, 0, 16, 1, 1},  // a slot behind the elements
+      {{1, 2}, 5, 1, 17, 0, 2, 2},
+      {{}, 1, 1, 0, 1, 0, 1},
+      {{kInvalidDouble, 5}, -1e300, 1, 0, 2, 1, 2},
+  };
+  int number = 0;
+  for (const Row& row : rows) {
+    CDblVector vector;
+    Set(vector, row.values);
+    const auto check = [&](std::int32_t pExpected, auto pCall) {
+      std::int32_t actual = 0;
+      EXPECT_EQ(ErrorOf([&] { actual = pCall(); }), pExpected == 0 ? kSubscript : 0) << number;
+      EXPECT_EQ(actual, pExpected) << number;
+    };
+    check(row.closest, [&] { return vector.ClosestIndex(row.value, row.start, row.end); });
+    check(row.left, [&] { return vector.ClosestLeftIndex(row.value); });
+    check(row.right, [&] { return vector.ClosestRightIndex(row.value); });
+    ++number;
+  }
+}
+
+TEST(CDblVector, SkipsInvalidElements) {
+  struct Row {
+    std::vector<double> values;
+    double min, max, sum;
+    std::int32_t valid;
+  };
+  const double invalid = kInvalidDouble;
+  const Row rows[] = {
+      {{}, 0, 0, 0, 0},
+      {{invalid, 5, 2}, invalid, 5, 7, 2},
+      {{5, invalid, 2}, 2, 5, 7, 2},
+      {{invalid, invalid}, invalid, invalid, 0, 0},
+  };
+  for (const Row& row : rows) {
+    CDblVector vector;
+    Set(vector, row.values);
+    EXPECT_EQ(vector.Min(), row.min);
+    EXPECT_EQ(vector.Max(), row.max);
+    EXPECT_EQ(vector.Sum(), row.sum);
+    EXPECT_EQ(vector.NrValid(), row.valid);
+  }
+  CDblVector vector;
+  vector.LetValue(1, 7);  // the first slot counts even without elements
+  EXPECT_EQ(vector.Min(), 7);
+  EXPECT_EQ(vector.Max(), 7);
+  vector.InsertValue(1);
+  EXPECT_EQ(vector.Value(1), invalid);
+  EXPECT_EQ(ErrorOf([&] { Set(vector, {1e308, 1e308}).Sum(); }), kOverflow);
+}
+
+TEST(CLngVector, OverflowsInSumsAndDistances) {
+  CLngVector vector;
+  EXPECT_EQ(ErrorOf([&] { Set(vector, {kMost, 1, -1}).Sum(); }), kOverflow);
+  EXPECT_EQ(Set(vector, {kMost, kInvalidLong, -1}).Sum(), kMost - 1);
+  EXPECT_EQ(ErrorOf([&] { Set(vector, {kLeast}).ClosestIndex(0); }), kOverflow);
+  EXPECT_EQ(ErrorOf([&] { Set(vector, {-2}).ClosestIndex(kMost); }), kOverflow);
+  EXPECT_EQ(Set(vector, {kLeast + 1, 3, 5}).ClosestIndex(0), 2.0);
+  static_assert(std::same_as<decltype(vector.ClosestIndex(0)), double>);
+  EXPECT_EQ(vector.VarType(), EVTDouble);
+  vector.InsertValue(2);
+  EXPECT_EQ(vector.Value(2), kInvalidLong);
+  EXPECT_EQ(vector.NrValid(), 3);
+}
+
+TEST(CStrVector, ComparesTextsIgnoringCase) {
+  const ScopedLocale locale(TestLocale("en-US"));
+  CStrVector vector, other;
+  Set(vector, {u"Alpha", u"~", u"beta"});
+  EXPECT_EQ(vector.Index(u"BETA"), 3);
+  EXPECT_EQ(vector.NrValid(), 2);
+  vector.AddUniqueValue(u"ALPHA");
+  EXPECT_EQ(vector.Size(), 3);
+  EXPECT_TRUE(Set(other, {u"alpha", u"~", u"BETA"}).IsEqual(vector));
+  EXPECT_FALSE(Set(other, {u"alpha", u"~", u"gamma"}).IsEqual(vector));
+  vector.InsertValue(1);
+  EXPECT_EQ(vector.Value(1), u"~");
+}
+
+// Three stale elements, then the text.
+template <class Vector>
+std::string Read(const char* pText, typename Vector::Type pStale) {
+  Vector vector;
+  Set(vector, {pStale, pStale, pStale}).SetFromString(FromUtf8(pText));
+  return Shown(vector);
+}
+
+TEST(Vectors, ReadTextsOfTheLocale) {
+  struct Row {
+    const char* text;
+    const char* doubles;
+    const char* longs;
+    const char* booleans;
+    const char* texts;
+  };
+  const Row rows[] = {
+      {"", "()", "()", "()", "()"},
+      {"()", "()", "()", "()", "()"},
+      {"(", "()", "()", "()", "()"},
+      {"1;2", "(1;2)", "(1;2)", "(True;True)", "(1;2)"},
+      {"(1,5;x;0)", "(1,5;9;0)", "(2;9;0)", "(True;True;False)", "(1,5;x;0)"},
+      {"({1;2})", "(1;2)", "(1;2)", "(True;True)", "(1;2)"},
+      {"{1;2}", "(1;2)", "(1;2)", "(True;True)", "(1;2)"},
+      {"(1;2]", "(1;2)", "(1;2)", "(True;True)", "(1;2)"},
+      {"False;true;1e999", "(9;9;9)", "(9;9;9)", "(False;True;True)", "(False;true;1e999)"},
+      {";;", "(9;9;9)", "(9;9;9)", "(True;True;True)", "(;;)"},
+  };
+  const ScopedLocale locale(TestLocale("de-DE"));
+  for (const Row& row : rows) {
+    EXPECT_EQ(Read<CDblVector>(row.text, 9), row.doubles) << row.text;
+    EXPECT_EQ(Read<CLngVector>(row.text, 9), row.longs) << row.text;
+    EXPECT_EQ(Read<CBoolVector>(row.text, true), row.booleans) << row.text;
+    EXPECT_EQ(Read<CStrVector>(row.text, u"9"), row.texts) << row.text;
+  }
+}
+
+template <class V>
+concept HasVarType = requires(V v) {
+  v.VarType();
+};
+template <class V>
+concept HasBlocks = requires(V v) {
+  v.LetBlockSize(1);
+};
+template <class V>
+concept Sorts = requires(V v) {
+  v.Sort();
+};
+template <class V>
+concept AddsUp = requires(V v) {
+  v.Sum(), v.Min(), v.Max(), v.ClosestLeftIndex(1);
+};
+template <class V>
+concept AddsUnique = requires(V v) {
+  v.AddUniqueValue(v.Value(1));
+};
+template <class V>
+concept CountsValid = requires(V v) {
+  v.NrValid();
+};
+
+static_assert(HasVarType<CDblVector> && HasVarType<CLngVector> && !HasVarType<CStrVector> && HasVarType<CBoolVector>);
+static_assert(HasBlocks<CDblVector> && HasBlocks<CLngVector> && HasBlocks<CStrVector> && !HasBlocks<CBoolVector>);
+static_assert(Sorts<CDblVector> && Sorts<CLngVector> && Sorts<CStrVector> && !Sorts<CBoolVector>);
+static_assert(AddsUp<CDblVector> && AddsUp<CLngVector> && !AddsUp<CStrVector> && !AddsUp<CBoolVector>);
+static_assert(AddsUnique<CStrVector> && !AddsUnique<CBoolVector>);
+static_assert(CountsValid<CStrVector> && !CountsValid<CBoolVector>);
+
+}  // namespace
+}  // namespace qzbase::tests

@@ -1,0 +1,91 @@
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "qzbase/data/CStrVector.h"
+#include "qzbase/data/VectorSort.h"
+#include "qzbase/runtime/Locale.h"
+#include "tests/support/Corpus.h"
+#include "tests/support/ErrorOf.h"
+
+namespace qzbase::tests {
+namespace {
+
+// The sort that defines the order, word by word.
+template <class T>
+std::vector<T> InsertionSorted(const std::vector<T>& pValues, bool pAscending) {
+  std::vector<T> sorted;
+  for (const T& value : pValues) {
+    auto place = sorted.begin();
+    while (place != sorted.end() && !(pAscending ? *place > value : *place < value)) ++place;
+    sorted.insert(place, value);
+  }
+  return sorted;
+}
+
+// Tells the two zeros apart.
+std::string Shown(const std::vector<double>& pValues) {
+  std::string text;
+  for (const double value : pValues) {
+    text += std::signbit(value) ? '-' : '+';
+    text += std::to_string(std::fabs(value));
+    text += ' ';
+  }
+  return text;
+}
+
+TEST(SortElements, OrdersAnythingAsTheInsertionSortDoes) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+  constexpr double kValues[] = {kNaN, -kNaN, 0.0, -0.0, kInfinity, -kInfinity, 1, 2, 3, -1, kNaN, 1};
+  std::mt19937 random(1);
+  for (int round = 0; round < 20'000; ++round) {
+    std::vector<double> values(random() % 12);
+    for (double& value : values) value = kValues[random() % std::size(kValues)];
+    for (const bool ascending : {true, false}) {
+      std::vector<double> sorted = values;
+      SortElements(sorted, ascending);
+      ASSERT_EQ(Shown(sorted), Shown(InsertionSorted(values, ascending))) << Shown(values);
+    }
+  }
+}
+
+TEST(SortElements, OrdersLongs) {
+  std::mt19937 random(2);
+  std::vector<std::int32_t> values(300);
+  for (std::int32_t& value : values) value = static_cast<std::int32_t>(random() % 100) - 50;
+  for (const bool ascending : {true, false}) {
+    std::vector<std::int32_t> sorted = values;
+    SortElements(sorted, ascending);
+    EXPECT_EQ(sorted, InsertionSorted(values, ascending));
+  }
+}
+
+TEST(SortElements, RewritesTextsAsWholeNumbers) {
+  struct Row {
+    const char16_t* values;
+    bool ascending;
+    const char* sorted;
+    std::int32_t error;
+  };
+  const Row rows[] = {
+      {u"10;9;2,6", true, "(3;9;10)", 0},
+      {u"10;9;2,6", false, "(10;9;3)", 0},
+      {u"b;a", true, "(b;a)", kTypeMismatch},
+      {u"10;9,4;x;1", true, "(9;10;x;1)", kTypeMismatch},
+      {u"3;2;3e9;1", true, "(2;3;3e9;1)", kOverflow},
+  };
+  const runtime::ScopedLocale locale(TestLocale("de-DE"));
+  for (const Row& row : rows) {
+    CStrVector vector;
+    vector.SetFromString(row.values);
+    EXPECT_EQ(ErrorOf([&] { vector.Sort(row.ascending); }), row.error);
+    EXPECT_EQ(ToUtf8(vector.GetString()), row.sorted);
+  }
+}
+
+}  // namespace
+}  // namespace qzbase::tests

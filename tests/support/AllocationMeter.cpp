@@ -1,0 +1,40 @@
+#include "tests/support/AllocationMeter.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+thread_local std::size_t requestedBytes = 0;
+
+void* Allocate(std::size_t pSize) noexcept {
+  requestedBytes += pSize;
+  return std::malloc(pSize > 0 ? pSize : 1);
+}
+
+}  // namespace
+
+void* operator new(std::size_t pSize) {
+  if (void* memory = Allocate(pSize)) return memory;
+  throw std::bad_alloc();
+}
+
+void* operator new(std::size_t pSize, const std::nothrow_t&) noexcept {
+  return Allocate(pSize);
+}
+
+void operator delete(void* pMemory) noexcept {
+  std::free(pMemory);
+}
+
+void operator delete(void* pMemory, std::size_t) noexcept {
+  std::free(pMemory);
+}
+
+namespace qzbase::tests {
+
+std::size_t RequestedBytes() noexcept {
+  return requestedBytes;
+}
+
+}  // namespace qzbase::tests
