@@ -319,7 +319,7 @@ TEST(Invoke, MemberTableSaysWhatTheRowsSay) {
   const auto& describe = MemberOf<Sample, 10>::kParameters;
   EXPECT_EQ(describe[6].type.name, "SampleShade");
   EXPECT_FALSE(describe[8].type.mustBeSet);
-  EXPECT_TRUE(MemberOf<Sample, 4>::kParameters.back().type.isByRef) << "a value passed by reference";
+  EXPECT_TRUE((MemberOf<Sample, 4>::kParameters.back().type.isByRef)) << "a value passed by reference";
   EXPECT_TRUE((MemberOf<Sample, 16>::kParameters[0].type.isByRef)) << "marked, though not changed";
   EXPECT_TRUE((MemberOf<Sample, 20>::kParameters[0].type.mustBeSet));
 }
