@@ -71,6 +71,7 @@ void ReadOne(CBuffer& pBuffer, std::uint8_t pChoice) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t pSize) {
   fuzz::Input input(pData, pSize);
   const auto reads = input.TakeBytes(8);
+  if (input.IsEmpty()) return 0;
   CBuffer buffer;
   buffer.LetByteArray(runtime::Array<std::uint8_t>(0, input.TakeRest()));
   for (const std::uint8_t read : reads) {
