@@ -1,8 +1,11 @@
 #include "qzbase/automation/FaceText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstddef>
+#include <initializer_list>
+#include <string_view>
 
 #include "qzbase/automation/Identities.h"
 #include "qzbase/os/Utf8.h"
@@ -15,18 +18,18 @@ constexpr std::array<std::string_view, 14> kTypeNames = {
     "", "Boolean", "Byte", "Integer", "Long", "Single", "Double", "Date", "String", "Variant", "Object", "", "", ""};
 constexpr std::array<std::string_view, kMemberKinds> kKindNames = {"method", "get", "let", "set"};
 
-std::string Braced(std::string_view pGuid) {
-  return " {" + std::string(pGuid) + "}";
+std::string Joined(std::initializer_list<std::string_view> pParts) {
+  std::string text;
+  for (const std::string_view part : pParts) text += part;
+  return text;
 }
 
 // The shortest text that reads back as the same number, with an upper-case exponent.
 std::string NumberText(double pValue) {
   std::array<char, 32> buffer;
   const auto end = std::to_chars(buffer.begin(), buffer.end(), pValue).ptr;
-  std::string text(buffer.begin(), end);
-  for (char& each : text)
-    if (each == 'e') each = 'E';
-  return text;
+  std::replace(buffer.begin(), end, 'e', 'E');
+  return {buffer.begin(), end};
 }
 
 std::string DefaultText(const DefaultValue& pValue) {
@@ -34,73 +37,76 @@ std::string DefaultText(const DefaultValue& pValue) {
     case DefaultValue::Kind::None:
       return {};
     case DefaultValue::Kind::Unset:
-      return " = ?";
+      return "?";
     case DefaultValue::Kind::Boolean:
-      return pValue.number != 0 ? " = True" : " = False";
+      return pValue.number != 0 ? "True" : "False";
     case DefaultValue::Kind::Long:
-      return " = " + std::to_string(pValue.number);
+      return std::to_string(pValue.number);
     case DefaultValue::Kind::Double:
-      return " = " + NumberText(pValue.real);
+      return NumberText(pValue.real);
     case DefaultValue::Kind::Text:
-      return " = \"" + os::ToUtf8(pValue.text) + "\"";
+      return Joined({"\"", os::ToUtf8(pValue.text), "\""});
   }
   return {};
 }
 
 std::string ParameterText(const ParameterDesc& pParameter) {
-  return std::string(pParameter.name) + ": " + TypeText(pParameter.type) + DefaultText(pParameter.defaultValue);
+  const std::string type = TypeText(pParameter.type);
+  if (!pParameter.IsOptional()) return Joined({pParameter.name, ": ", type});
+  return Joined({pParameter.name, ": ", type, " = ", DefaultText(pParameter.defaultValue)});
 }
 
-void AppendEnumeration(std::string& pText, const EnumDesc& pEnumeration) {
-  const std::string name(pEnumeration.identity->name);
-  pText += "enum " + name + Braced(pEnumeration.identity->guid) + "\n";
+std::string EnumerationText(const EnumDesc& pEnumeration) {
+  const std::string_view name = pEnumeration.identity->name;
+  std::string text = Joined({"enum ", name, " {", pEnumeration.identity->guid, "}\n"});
   for (const EnumItem& item : pEnumeration.items)
-    pText += name + "." + std::string(item.name) + " = " + std::to_string(item.value) + "\n";
+    text += Joined({name, ".", item.name, " = ", std::to_string(item.value), "\n"});
+  return text;
 }
 
-void AppendRecord(std::string& pText, const RecordDesc& pRecord) {
-  const std::string name(pRecord.identity->name);
-  pText += "record " + name + Braced(pRecord.identity->guid) + "\n";
+std::string RecordText(const RecordDesc& pRecord) {
+  const std::string_view name = pRecord.identity->name;
+  std::string text = Joined({"record ", name, " {", pRecord.identity->guid, "}\n"});
   for (const FieldDesc& field : pRecord.fields)
-    pText += name + "." + std::string(field.name) + ": " + TypeText(field.type) + "\n";
+    text += Joined({name, ".", field.name, ": ", TypeText(field.type), "\n"});
+  return text;
 }
 
-void AppendClass(std::string& pText, const ClassEntry& pClass) {
+std::string ClassText(const ClassEntry& pClass) {
   const Identity& identity = *pClass.identity;
-  pText += identity.kind == IdentityKind::GlobalClass ? "global class " : "class ";
-  pText += std::string(identity.name) + Braced(identity.guid) + " interface" + Braced(identity.interfaceGuid) + "\n";
-  for (const MemberDesc& member : pClass.members->rows) pText += MemberText(pClass, member) + "\n";
+  const std::string_view kind = identity.kind == IdentityKind::GlobalClass ? "global class " : "class ";
+  std::string text = Joined({kind, identity.name, " {", identity.guid, "} interface {", identity.interfaceGuid, "}\n"});
+  for (const MemberDesc& member : pClass.members->rows) text += MemberText(pClass, member) + "\n";
+  return text;
 }
 
 }  // namespace
 
 std::string TypeText(const TypeDesc& pType) {
-  std::string text = pType.isByRef ? "ByRef " : "";
-  text += pType.name.empty() ? kTypeNames[static_cast<std::size_t>(pType.base)] : pType.name;
-  if (pType.isArray) text += pType.fixedLength != 0 ? "(0 To " + std::to_string(pType.fixedLength - 1) + ")" : "()";
-  return text;
+  const std::string_view name = pType.name.empty() ? kTypeNames[static_cast<std::size_t>(pType.base)] : pType.name;
+  const std::string bounds = pType.fixedLength != 0 ? Joined({"(0 To ", std::to_string(pType.fixedLength - 1), ")"})
+                             : pType.isArray        ? "()"
+                                                    : "";
+  return Joined({pType.isByRef ? "ByRef " : "", name, bounds});
 }
 
 std::string MemberText(const ClassEntry& pClass, const MemberDesc& pMember) {
-  std::string text = std::string(pClass.identity->name) + " " + std::to_string(pMember.id) + " ";
-  text += kKindNames[static_cast<std::size_t>(pMember.kind)];
-  text += " " + std::string(pMember.name) + "(";
-  bool first = true;
-  for (const ParameterDesc& parameter : pClass.members->Parameters(pMember)) {
-    text += (first ? "" : ", ") + ParameterText(parameter);
-    first = false;
+  std::string parameters;
+  for (const ParameterDesc& each : pClass.members->Parameters(pMember)) {
+    if (!parameters.empty()) parameters += ", ";
+    parameters += ParameterText(each);
   }
-  text += ")";
-  if (pMember.result.base != BaseType::Void) text += ": " + TypeText(pMember.result);
-  return pMember.isHidden ? text + " hidden" : text;
+  const std::string result = TypeText(pMember.result);
+  return Joined({pClass.identity->name, " ", std::to_string(pMember.id), " ",
+                 kKindNames[static_cast<std::size_t>(pMember.kind)], " ", pMember.name, "(", parameters, ")",
+                 result.empty() ? "" : ": ", result, pMember.isHidden ? " hidden" : ""});
 }
 
 std::string FaceText() {
-  std::string text = "library " + std::string(kLibraryName) + " " + std::string(kLibraryVersion) + Braced(kLibraryGuid);
-  text += "\n";
-  for (const EnumDesc& enumeration : Enumerations()) AppendEnumeration(text, enumeration);
-  for (const RecordEntry& record : Records()) AppendRecord(text, *record.desc);
-  for (const ClassEntry* entry : Classes()) AppendClass(text, *entry);
+  std::string text = Joined({"library ", kLibraryName, " ", kLibraryVersion, " {", kLibraryGuid, "}\n"});
+  for (const EnumDesc& enumeration : Enumerations()) text += EnumerationText(enumeration);
+  for (const RecordEntry& record : Records()) text += RecordText(*record.desc);
+  for (const ClassEntry* entry : Classes()) text += ClassText(*entry);
   return text;
 }
 

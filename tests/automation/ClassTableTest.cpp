@@ -36,8 +36,8 @@ TEST(ClassTable, CreatesObjectsByName) {
 
 TEST(ClassTable, EveryObjectKnowsItsClass) {
   for (const ClassEntry* entry : Classes()) {
-    const std::string name(entry->identity->name);
-    const Ref<Object> object = CreateObject(u"QZBase." + os::FromUtf8(name));
+    const std::string_view name = entry->identity->name;
+    const Ref<Object> object = CreateObject(std::u16string(u"QZBase.").append(os::FromUtf8(name)));
     EXPECT_EQ(ClassOf(*object), entry) << name;
     EXPECT_EQ(ErrorOf([&] { object->Call(u"NoSuchMember"); }), 438) << name;
   }

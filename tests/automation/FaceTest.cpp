@@ -204,7 +204,7 @@ std::string Shown(const Variant& pValue) {
     return entry ? std::string(entry->identity->name) : "record";
   }
   if (const AnyArray* array = pValue.IfArray())
-    return std::visit([](const auto& pArray) { return "array of " + std::to_string(pArray.Size()); }, *array);
+    return std::visit([](const auto& pArray) { return std::to_string(pArray.Size()).append(" elements"); }, *array);
   return os::ToUtf8(ToText(pValue));
 }
 

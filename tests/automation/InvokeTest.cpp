@@ -24,27 +24,32 @@ std::string Show(const Variant& pValue);
 template <class T>
 std::string ShowArray(const Array<T>& pArray) {
   if (!pArray.IsAllocated()) return "unallocated";
-  std::string text = "[" + std::to_string(pArray.LowerBound()) + ":";
+  std::string text("[");
+  text.append(std::to_string(pArray.LowerBound())).append(":");
   for (const auto& each : pArray.Elements())
-    text += " " + Show(automation::VariantValue<T>::To(static_cast<const T&>(each)));
-  return text + "]";
+    text.append(" ").append(Show(automation::VariantValue<T>::To(static_cast<const T&>(each))));
+  return text.append("]");
+}
+
+std::string ShowObject(const Object* pObject) {
+  if (!pObject) return "object unset";
+  if (const auto* sample = dynamic_cast<const Sample*>(pObject))
+    return std::string("object ").append(os::ToUtf8(sample->Title()));
+  if (const auto* point = dynamic_cast<const automation::RecordObject<SamplePoint>*>(pObject))
+    return std::string("point ").append(os::ToUtf8(ToText(Variant(point->value.X)) + point->value.Label));
+  return "object stranger";
 }
 
 std::string Show(const Variant& pValue) {
-  static const char* const kinds[] = {"empty", "null",  "integer ", "long ",   "single ", "double ",
-                                      "date ", "text ", "boolean ", "object ", ""};
-  const std::string kind = kinds[static_cast<std::size_t>(pValue.Kind())];
-  if (pValue.IsEmpty() || pValue.IsNull()) return kind;
+  static const char* const kinds[] = {"empty",   "null",  "integer ", "long ",   "single ",
+                                      "double ", "date ", "text ",    "boolean "};
   if (const AnyArray* array = pValue.IfArray())
     return std::visit([](const auto& pArray) { return ShowArray(pArray); }, *array);
-  if (const auto* date = pValue.If<Date>()) return kind + std::to_string(static_cast<int>(date->days));
-  const auto* object = pValue.If<Ref<Object>>();
-  if (!object) return kind + os::ToUtf8(ToText(pValue));
-  if (!*object) return kind + "unset";
-  if (const auto* sample = dynamic_cast<const Sample*>(object->get())) return kind + os::ToUtf8(sample->Title());
-  if (const auto* point = dynamic_cast<const automation::RecordObject<SamplePoint>*>(object->get()))
-    return "point " + std::to_string(static_cast<int>(point->value.X)) + os::ToUtf8(point->value.Label);
-  return kind + "stranger";
+  if (const auto* object = pValue.If<Ref<Object>>()) return ShowObject(object->get());
+  std::string text(kinds[static_cast<std::size_t>(pValue.Kind())]);
+  if (pValue.IsNull()) return text;
+  const auto* date = pValue.If<Date>();
+  return text.append(os::ToUtf8(ToText(date ? Variant(date->days) : pValue)));
 }
 
 Variant SampleNamed(std::u16string_view pTitle) {
@@ -75,7 +80,7 @@ std::string Answer(const std::function<Variant()>& pCall) {
   try {
     return Show(pCall());
   } catch (const AutomationError& error) {
-    return "error " + std::to_string(error.Number());
+    return std::string("error ").append(std::to_string(error.Number()));
   }
 }
 

@@ -22,7 +22,7 @@ std::u16string Sample::Describe(std::u16string_view pText, std::int32_t pCount, 
   std::u16string text(pText);
   for (const Variant& each : {Variant(pCount), Variant(pFactor), Variant(pWord), Variant(pFlag), Variant(pDate.days),
                               Variant(pShade), pAny, pOther ? Variant(pOther->title_) : Variant(u"unset")})
-    text += u"|" + ToText(each);
+    text.append(u"|").append(ToText(each));
   return text;
 }
 
