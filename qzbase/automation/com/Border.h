@@ -1,6 +1,7 @@
 // The form that each C++ type has in memory at the border, for slots, array elements and record fields alike.
 //
-//   Border<T>::Native         VARIANT_BOOL, BYTE, SHORT, LONG, FLOAT, DOUBLE, DATE, BSTR, VARIANT, IDispatch*, SAFEARRAY*,
+//   Border<T>::Native         VARIANT_BOOL, BYTE, SHORT, LONG, FLOAT, DOUBLE, DATE, BSTR, VARIANT, IDispatch*,
+//   SAFEARRAY*,
 //                             the record's own layout
 //   Border<T>::kVarType       the VARTYPE of such an element
 //   Border<T>::From(native)   the value; the native stays with its owner. Raises what does not convert
@@ -49,7 +50,9 @@ struct SameBytes {
 };
 
 template <class T>
-inline constexpr bool kIsSameBytes = requires { Border<T>::kIsSameBytes; };
+inline constexpr bool kIsSameBytes = requires {
+  Border<T>::kIsSameBytes;
+};
 
 }  // namespace detail
 

@@ -55,9 +55,9 @@ Variant FromCurrency(const VARIANT& pVariant) {
 // A decimal lies across the whole variant, and not behind its type.
 Variant FromDecimal(const VARIANT& pVariant) {
   double number = 0;
-  const DECIMAL* decimal = (pVariant.vt & VT_BYREF) != 0 ? pVariant.pdecVal : &pVariant.decVal;
-  if (!decimal) throw NullPointer();
-  CheckResult(VarR8FromDec(decimal, &number));
+  if ((pVariant.vt & VT_BYREF) != 0 && !pVariant.pdecVal) throw NullPointer();
+  DECIMAL decimal = (pVariant.vt & VT_BYREF) != 0 ? *pVariant.pdecVal : pVariant.decVal;
+  CheckResult(VarR8FromDec(&decimal, &number));
   return Variant(number);
 }
 

@@ -1,5 +1,5 @@
-// Late-bound calls by hosts: their variants become the library's own, the call goes through automation/Invoke.h, and the
-// by-reference arguments go back.
+// Late-bound calls by hosts: their variants become the library's own, the call goes through automation/Invoke.h, and
+// the by-reference arguments go back.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -46,7 +46,8 @@ class CallArguments {
  public:
   CallArguments(const DISPPARAMS& pGiven, bool pIsPut) : isPut_(pIsPut) {
     if (pGiven.cArgs > kMaxParameters || pGiven.cNamedArgs > pGiven.cArgs) Raise(RuntimeError::WrongNumberOfArguments);
-    const bool isIncomplete = (pGiven.cArgs != 0 && !pGiven.rgvarg) || (pGiven.cNamedArgs != 0 && !pGiven.rgdispidNamedArgs);
+    const bool isIncomplete =
+        (pGiven.cArgs != 0 && !pGiven.rgvarg) || (pGiven.cNamedArgs != 0 && !pGiven.rgdispidNamedArgs);
     if (isIncomplete) throw NullPointer();
     for (UINT i = pGiven.cArgs; i > pGiven.cNamedArgs; --i) Place(count_, pGiven.rgvarg[i - 1]);
     for (UINT i = 0; i < pGiven.cNamedArgs; ++i) PlaceNamed(pGiven.rgdispidNamedArgs[i], pGiven.rgvarg[i]);
@@ -113,8 +114,8 @@ class CallArguments {
 void Call(OuterFace& pFace, DISPID pMember, WORD pFlags, const DISPPARAMS& pParameters, VARIANT* pResult) {
   const ClassEntry& entry = *pFace.Class().entry;
   CallArguments arguments(pParameters, IsPut(pFlags));
-  const auto kind = static_cast<CallKind>(pFlags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT |
-                                                    DISPATCH_PROPERTYPUTREF));
+  const auto kind = static_cast<CallKind>(
+      pFlags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF));
   const std::size_t row = SelectRow(*entry.members, pMember, kind, arguments.List());
   const auto parameters = entry.members->Parameters(entry.members->rows[row]);
   arguments.Adapt(parameters);

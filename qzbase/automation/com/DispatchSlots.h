@@ -28,8 +28,7 @@ HRESULT STDMETHODCALLTYPE DualInvoke(DualInterface* pSelf, DISPID pMember, REFII
                                      DISPPARAMS* pParameters, VARIANT* pResult, EXCEPINFO* pException,
                                      UINT* pFaultAt) noexcept;
 
-inline constexpr DispatchSlots kDispatchSlots = {DualQueryInterface,   DualAddRef,      DualRelease,
-                                                 DualGetTypeInfoCount, DualGetTypeInfo, DualGetIdsOfNames,
-                                                 DualInvoke};
+inline constexpr DispatchSlots kDispatchSlots = {
+    DualQueryInterface, DualAddRef, DualRelease, DualGetTypeInfoCount, DualGetTypeInfo, DualGetIdsOfNames, DualInvoke};
 
 }  // namespace qzbase::automation::com

@@ -24,7 +24,7 @@ struct Face;
 struct NullPointer {};
 
 // For the exception that is being handled. `pFace` is the class called, null where there is none.
-HRESULT ReportEarly(const Face* pFace) noexcept;                    // sets the thread's error object
+HRESULT ReportEarly(const Face* pFace) noexcept;                   // sets the thread's error object
 HRESULT ReportLate(const Face* pFace, EXCEPINFO* pInfo) noexcept;  // fills in `pInfo`, which may be null
 
 // Calls `pBody` and makes a result of whatever it throws.

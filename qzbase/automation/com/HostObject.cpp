@@ -2,11 +2,12 @@
 // properties by value. The class instances of some script hosts find their members through IDispatchEx alone.
 #include "qzbase/automation/com/HostObject.h"
 
-#include <dispex.h>
-
 #include <string>
 #include <vector>
 
+#include <dispex.h>
+
+#include "qzbase/automation/VariantValue.h"
 #include "qzbase/automation/com/Conversion.h"
 #include "qzbase/automation/com/ErrorBorder.h"
 
@@ -101,7 +102,7 @@ Variant HostObject::Invoke(std::u16string_view pName, CallKind pKind, std::span<
 }
 
 runtime::Array<Variant> HostObject::Elements() {
-  const auto count = runtime::ToLong(Get(u"length"), runtime::ThreadLocale());
+  const auto count = VariantValue<std::int32_t>::From(Get(u"length"));
   std::vector<Variant> elements;
   for (std::int32_t i = 0; i < count; ++i) {
     const std::string digits = std::to_string(i);

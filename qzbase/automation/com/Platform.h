@@ -4,13 +4,15 @@
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
-#include <windows.h>
+#include <string>
+#include <string_view>
 
 #include <ocidl.h>
 #include <oleauto.h>
+#include <windows.h>
 
-#include <string>
-#include <string_view>
+// The platform's interfaces have no destructors: their objects delete themselves.
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
 namespace qzbase::automation::com {
 

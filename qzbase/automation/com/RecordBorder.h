@@ -103,7 +103,8 @@ struct Border<R> {
   static void ForEachField(Visitor pVisitor) {
     [&]<std::size_t... kField>(std::index_sequence<kField...>) {
       (pVisitor(std::integral_constant<std::size_t, kField>()), ...);
-    }(std::make_index_sequence<Layout::kCount>());
+    }
+    (std::make_index_sequence<Layout::kCount>());
   }
 };
 

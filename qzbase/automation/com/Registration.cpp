@@ -73,8 +73,7 @@ std::vector<RegistryValue> ValuesOf(const Face& pFace, const std::wstring& pPath
 
 void Write(HKEY pRoot, const RegistryValue& pValue) {
   const auto size = static_cast<DWORD>((pValue.text.size() + 1) * sizeof(wchar_t));
-  const LSTATUS status =
-      RegSetKeyValueW(pRoot, pValue.key.c_str(), pValue.name, REG_SZ, pValue.text.c_str(), size);
+  const LSTATUS status = RegSetKeyValueW(pRoot, pValue.key.c_str(), pValue.name, REG_SZ, pValue.text.c_str(), size);
   if (status != ERROR_SUCCESS) RaiseResult(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
 }
 
@@ -114,8 +113,9 @@ void Unregister(Audience pAudience) {
     RemoveKey(Root(pAudience), progId, status);
     RemoveKey(Root(pAudience), classId, status);
   }
-  const HRESULT library = pAudience == Audience::User ? UnRegisterTypeLibForUser(kLibraryId, 1, 0, LOCALE_NEUTRAL, kSystem)
-                                                      : UnRegisterTypeLib(kLibraryId, 1, 0, LOCALE_NEUTRAL, kSystem);
+  const HRESULT library = pAudience == Audience::User
+                              ? UnRegisterTypeLibForUser(kLibraryId, 1, 0, LOCALE_NEUTRAL, kSystem)
+                              : UnRegisterTypeLib(kLibraryId, 1, 0, LOCALE_NEUTRAL, kSystem);
   if (status != ERROR_SUCCESS) RaiseResult(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
   if (FAILED(library) && library != TYPE_E_REGISTRYACCESS) RaiseResult(library);
 }

@@ -32,8 +32,7 @@ struct SlotCall {
   template <class Native, class... Arguments>
   SlotCall(Native* pResult, runtime::Object& pObject, Arguments&&... pArguments) {
     using T = ValueOf<Result>;
-    OwnedNative<T> result(
-        Border<T>::To(automation::detail::CallFunction<C, kFunction>(pObject, pArguments.Pass()...)));
+    OwnedNative<T> result(Border<T>::To(automation::detail::CallFunction<C, kFunction>(pObject, pArguments.Pass()...)));
     (pArguments.Prepare(), ...);
     (pArguments.Commit(), ...);
     *pResult = result.Release();
@@ -89,8 +88,7 @@ auto MakeStub(TypeList<Declared...>, std::index_sequence<kAt...>)
             SlotArgument<Declared, MemberOf<C, kRow>::kParameters[kAt].type.isByRef>...>;
 
 template <class C, std::size_t kRow, class Parameters = typename MemberOf<C, kRow>::Parts::Parameters>
-using StubOf =
-    decltype(MakeStub<C, kRow>(Parameters(), std::make_index_sequence<Parameters::kSize>()));
+using StubOf = decltype(MakeStub<C, kRow>(Parameters(), std::make_index_sequence<Parameters::kSize>()));
 
 }  // namespace detail
 
@@ -101,8 +99,7 @@ struct SlotsFrom {
   SlotsFrom<C, kRow + 1> others;
 };
 template <class C, std::size_t kRow>
-requires(kRow + 1 == members<C>.kSize)
-struct SlotsFrom<C, kRow> {
+requires(kRow + 1 == members<C>.kSize) struct SlotsFrom<C, kRow> {
   typename detail::StubOf<C, kRow>::Slot slot = detail::StubOf<C, kRow>::Call;
 };
 
