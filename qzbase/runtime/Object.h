@@ -37,9 +37,12 @@ class Object : public std::enable_shared_from_this<Object> {
   Object(const Object&) = delete;
   Object& operator=(const Object&) = delete;
 
-  // Calls the member `pName`. Arguments are in the order of its parameters, the new value of a let or set last; a
-  // by-reference parameter changes its argument. Raises error 438 where the object has no such member (this class has
-  // none) and what the member raises.
+  // Calls the member `pName`, the default member for an empty name. Arguments are in the order of its parameters, the
+  // new value of a let or set last; a by-reference parameter changes its argument. Raises error 438 where the object has
+  // no such member, and what the member raises.
+  //
+  // The classes of this library have the members of their tables (automation/ClassTable.h). Objects from elsewhere, a
+  // host's own or a test's, override it.
   virtual Variant Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments);
 
   template <class... Arguments>

@@ -21,8 +21,4 @@ AnyArray* Variant::IfArray() noexcept {
   return box ? &**box : nullptr;
 }
 
-Variant Object::Invoke(std::u16string_view, CallKind, std::span<Variant>) {
-  Raise(RuntimeError::MemberNotFound);
-}
-
 }  // namespace qzbase::runtime

@@ -1,0 +1,104 @@
+// The members of the data containers.
+#pragma once
+
+#include "qzbase/automation/Identities.h"
+#include "qzbase/automation/Members.h"
+#include "qzbase/automation/members/ObjectRows.h"
+#include "qzbase/data/CBoolVector.h"
+#include "qzbase/data/CDblVector.h"
+#include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CStrVector.h"
+#include "qzbase/data/TPoint.h"
+
+namespace qzbase::automation {
+
+template <>
+inline constexpr auto fields<TPoint> = record(field<&TPoint::X>("X", "The abscissa."),
+                                              field<&TPoint::Y>("Y", "The ordinate."));
+
+// ---- The typed vectors: the rows that they share, in the order in which they stand.
+
+template <class V>
+inline constexpr auto kVectorType = method<&V::VarType>("VarType", "The value type of the elements.");
+template <class V>
+inline constexpr auto kVectorSize = get<&V::Size>("Size", "The number of elements.");
+template <class V>
+inline constexpr auto kLetVectorSize = let<&V::LetSize>("Size");
+
+// `pDefault` is the value that InsertValue takes when none is given.
+template <class V>
+constexpr auto ElementRows(auto pDefault) {
+  return rows(method<&V::SetFromArray>("SetFromArray", {byRef("InArray")}, "Takes the elements of an array."),
+              method<&V::GetArray>("GetArray", "All slots of the storage, which are at least as many as elements."),
+              method<&V::SetFromString>("SetFromString", {"pString"}, "Takes the elements from a text like (1;2;3)."),
+              method<&V::GetString>("GetString", "The elements as a text like (1;2;3)."),
+              let<&V::LetValue>("Value", {"pIndex"}),
+              get<&V::Value>("Value", {"pIndex"}, "The element at an index from 1."),
+              method<&V::InsertValue>("InsertValue", {"pAtPos", opt("pValue", pDefault)},
+                                      "Inserts an element; a position outside appends it."),
+              method<&V::AddValue>("AddValue", {"pValue"}, "Appends an element."));
+}
+
+template <class V>
+inline constexpr auto kAddUniqueValue = method<&V::AddUniqueValue>("AddUniqueValue", {"pValue"},
+                                                                   "Appends an element unless an equal one is there.");
+
+template <class V>
+constexpr auto LookUpRows() {
+  return rows(method<&V::DeleteValue>("DeleteValue", {"pIndex"}, "Removes an element."),
+              method<&V::Index>("Index", {"pValue", opt("pStartIndex", 1)},
+                                "The first index from a start on with an equal element, -1 if there is none."));
+}
+
+template <class V>
+constexpr auto ClosestRows() {
+  return rows(method<&V::ClosestIndex>("ClosestIndex", {"pValue", opt("pStartIndex", 1), opt("pEndIndex", 0)},
+                                       "The index of the element nearest to a value."),
+              method<&V::ClosestLeftIndex>("ClosestLeftIndex", {"pValue"},
+                                           "The last index whose element is not above a value."),
+              method<&V::ClosestRightIndex>("ClosestRightIndex", {"pValue"},
+                                            "The first index whose element is not below a value."));
+}
+
+template <class V>
+inline constexpr auto kSort = method<&V::Sort>("Sort", {opt("pAscending", true)},
+                                               "Sorts the elements; equal ones keep their order.");
+
+template <class V>
+constexpr auto StatisticsRows() {
+  return rows(method<&V::Min>("Min", "The smallest element."), method<&V::Max>("Max", "The largest element."),
+              method<&V::Sum>("Sum", "The sum of the valid elements."));
+}
+
+template <class V>
+inline constexpr auto kNrValid = method<&V::NrValid>("NrValid",
+                                                     "The number of elements that are not the invalid value.");
+template <class V>
+inline constexpr auto kLetBlockSize = let<&V::LetBlockSize>("BlockSize",
+                                                            "The number of slots by which the storage grows.");
+
+template <class V>
+constexpr auto NumberVectorTable(auto pDefault) {
+  return table(kVectorType<V>, kVectorSize<V>, kLetVectorSize<V>, ElementRows<V>(pDefault), kAddUniqueValue<V>,
+               LookUpRows<V>(), ClosestRows<V>(), kSort<V>, StatisticsRows<V>(), kNrValid<V>, ObjectRows<V>(),
+               kLetBlockSize<V>);
+}
+
+template <>
+inline constexpr auto members<CDblVector> = NumberVectorTable<CDblVector>(kInvalidDouble);
+template <>
+inline constexpr auto members<CLngVector> = NumberVectorTable<CLngVector>(kInvalidLong);
+
+template <>
+inline constexpr auto members<CStrVector> = table(kVectorSize<CStrVector>, kLetVectorSize<CStrVector>,
+                                                  ElementRows<CStrVector>(kInvalidString), kAddUniqueValue<CStrVector>,
+                                                  LookUpRows<CStrVector>(), kSort<CStrVector>, kNrValid<CStrVector>,
+                                                  ObjectRows<CStrVector>(), kLetBlockSize<CStrVector>);
+
+// The let of the size stands before its get here.
+template <>
+inline constexpr auto members<CBoolVector> = table(kVectorType<CBoolVector>, kLetVectorSize<CBoolVector>,
+                                                   kVectorSize<CBoolVector>, ElementRows<CBoolVector>(false),
+                                                   LookUpRows<CBoolVector>(), ObjectRows<CBoolVector>());
+
+}  // namespace qzbase::automation

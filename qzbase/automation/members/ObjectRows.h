@@ -1,0 +1,29 @@
+// The rows that all object classes have in common, in the order of their interfaces.
+#pragma once
+
+#include "qzbase/automation/Members.h"
+
+namespace qzbase::automation {
+
+template <class C>
+constexpr auto CopyRows() {
+  return rows(method<&C::CopyFrom>("CopyFrom", {"pSource"}, "Takes over the contents of another object."),
+              method<&C::GetCopy>("GetCopy", "A new object with the same contents."));
+}
+
+template <class C>
+constexpr auto SaveRows() {
+  return rows(method<&C::SaveToBuffer>("SaveToBuffer", {"pBuffer", opt("pAppend", false)},
+                                       "Writes the object into a buffer, which is cleared first unless it appends."),
+              method<&C::LoadFromBuffer>("LoadFromBuffer", {"pBuffer", opt("pAppend", false)},
+                                         "Reads the object from a buffer, from its start unless it goes on."));
+}
+
+// What they all can do, but for their texts.
+template <class C>
+constexpr auto ObjectRows() {
+  return rows(CopyRows<C>(), method<&C::IsEqual>("IsEqual", {"pCompare"}, "Whether two objects have equal contents."),
+              SaveRows<C>());
+}
+
+}  // namespace qzbase::automation
