@@ -60,7 +60,7 @@ TEST(ClassTable, ObjectsAnswerCallsByName) {
 
 TEST(ClassTable, NumbersAreCalledForWithoutMemory) {
   const Ref<Object> vector = CreateObject(u"QZBase.CDblVector");
-  vector->Get(u"Value", 3.0);  // a thread's first conversion reads the user's settings
+  vector->Let(u"Value", 3.0, 1);  // makes the slot; a thread's first conversion reads the user's settings
   const std::size_t before = RequestedBytes();
   vector->Let(u"Value", 3, 2.5);
   const Variant value = vector->Get(u"Value", 3.0);
