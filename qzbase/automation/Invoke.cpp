@@ -32,8 +32,9 @@ std::int16_t RowOf(const RowsOfId& pRows, MemberKind pKind) {
   return pRows[static_cast<std::size_t>(pKind)];
 }
 
-// The row for a let, a set or either of them, -1 if there is none.
+// The row for a let, a set or either of them, -1 if there is none or neither is asked for.
 std::int16_t PutRow(const RowsOfId& pRows, CallKind pKind, ArgumentList pArguments) {
+  if (!Includes(pKind, CallKind::Let) && !Includes(pKind, CallKind::Set)) return -1;
   const bool isObject = HoldsObject(pArguments);
   const bool wantsSet = Includes(pKind, CallKind::Set) && (isObject || !Includes(pKind, CallKind::Let));
   const MemberKind wanted = wantsSet ? MemberKind::Set : MemberKind::Let;
