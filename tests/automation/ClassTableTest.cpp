@@ -10,21 +10,14 @@
 #include "qzbase/os/Utf8.h"
 #include "qzbase/runtime/Convert.h"
 #include "tests/automation/SampleClass.h"
+#include "tests/support/AllocationMeter.h"
+#include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
 
 using namespace automation;
 using namespace runtime;
-
-std::int32_t ErrorOf(auto pCall) {
-  try {
-    pCall();
-    return 0;
-  } catch (const AutomationError& error) {
-    return error.Number();
-  }
-}
 
 TEST(ClassTable, CreatesObjectsByName) {
   EXPECT_NE(std::dynamic_pointer_cast<CDblVector>(CreateObject(u"QZBase.CDblVector")), nullptr);
@@ -63,6 +56,16 @@ TEST(ClassTable, ObjectsAnswerCallsByName) {
   Invoke(*vector, u"InsertValue", CallKind::Method, {}, named);
   Invoke(*vector, u"InsertValue", CallKind::Method, std::vector{&position});
   EXPECT_EQ(ToText(vector->Call(u"GetString")), u"(-9.9999999999E+300;0.5;3;2;1;7)");
+}
+
+TEST(ClassTable, NumbersAreCalledForWithoutMemory) {
+  const Ref<Object> vector = CreateObject(u"QZBase.CDblVector");
+  vector->Let(u"Value", 3.0, 1);  // makes the slot; a thread's first conversion reads the user's settings
+  const std::size_t before = RequestedBytes();
+  vector->Let(u"Value", 3, 2.5);
+  const Variant value = vector->Get(u"Value", 3.0);
+  EXPECT_EQ(RequestedBytes() - before, 0u);
+  EXPECT_EQ(ToDouble(value), 2.5);
 }
 
 // An object that the table does not know takes what it can.

@@ -103,7 +103,7 @@ struct Border<runtime::Variant> {
   static constexpr VARTYPE kVarType = VT_VARIANT;
   static runtime::Variant From(const Native& pNative) { return FromVariant(pNative); }
   static Native To(const runtime::Variant& pValue) { return ToVariant(pValue); }
-  static void Clear(Native& pNative) noexcept { VariantClear(&pNative); }
+  static void Clear(Native& pNative) noexcept { ClearVariant(pNative); }
 };
 
 template <class C>

@@ -107,6 +107,7 @@ Variant FromScalar(const VARIANT& pVariant) {
     case VT_UNKNOWN:
       return FromObject(pVariant);
     case VT_RECORD:
+      if (!pVariant.pRecInfo) return Variant(nullptr);  // some systems lose records on their way between apartments
       return Variant(RecordFromVariant(pVariant));
     default:
       Raise(RuntimeError::TypeMismatch);
@@ -236,7 +237,7 @@ void MoveInto(VARIANT& pVariable, OwnedVariant& pFresh) noexcept {
   if (type == VT_RECORD) {
     pVariable.pRecInfo->RecordCopy(fresh.pvRecord, pVariable.pvRecord);
     VARIANT used = fresh;
-    VariantClear(&used);
+    ClearVariant(used);
     return;
   }
   if (type == VT_DECIMAL) {
@@ -294,7 +295,7 @@ VARIANT ToVariantOf(const Variant& pValue, VARTYPE pType) {
   if (pType == VT_RECORD) {
     result = ToVariant(pValue);
     if (result.vt == VT_RECORD) return result;
-    VariantClear(&result);
+    ClearVariant(result);
     Raise(RuntimeError::TypeMismatch);
   }
   if (PutAsOneOf(OwnKinds(), pValue, pType == VT_INT ? VARTYPE{VT_I4} : pType, result)) return result;
@@ -313,7 +314,7 @@ void WriteBack::Commit() noexcept {
   if ((target_->vt & VT_BYREF) != 0) return MoveInto(*target_, fresh_);
   if ((target_->vt & VT_ARRAY) != 0 && (fresh_.value.vt & VT_ARRAY) != 0)
     return ReplaceArray(target_->parray, fresh_.Release().parray);
-  VariantClear(target_);
+  ClearVariant(*target_);
   *target_ = fresh_.Release();
 }
 

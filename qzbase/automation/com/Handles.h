@@ -54,10 +54,21 @@ class ComRef {
   Interface* pointer_ = nullptr;
 };
 
+// Clearing a record must free its memory too, which not every system's VariantClear does.
+inline void ClearVariant(VARIANT& pVariant) noexcept {
+  if (pVariant.vt == VT_RECORD && pVariant.pRecInfo) {
+    if (pVariant.pvRecord) pVariant.pRecInfo->RecordDestroy(pVariant.pvRecord);
+    pVariant.pRecInfo->Release();
+    pVariant.vt = VT_EMPTY;
+  } else {
+    VariantClear(&pVariant);
+  }
+}
+
 class OwnedVariant {
  public:
   OwnedVariant() noexcept { VariantInit(&value); }
-  ~OwnedVariant() { VariantClear(&value); }
+  ~OwnedVariant() { ClearVariant(value); }
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
 

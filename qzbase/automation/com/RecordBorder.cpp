@@ -44,7 +44,7 @@ runtime::Ref<Record> RecordFromVariant(const VARIANT& pVariant) {
 void CheckRecordArray(SAFEARRAY& pArray, const RecordFace& pFace) {
   ComRef<IRecordInfo> info;
   CheckResult(SafeArrayGetRecordInfo(&pArray, info.Put()));
-  if (&CheckedRecordFace(info.Get()) != &pFace) Raise(RuntimeError::TypeMismatch);
+  if (CheckedRecordFace(info.Get()).desc != pFace.desc) Raise(RuntimeError::TypeMismatch);
 }
 
 }  // namespace qzbase::automation::com
