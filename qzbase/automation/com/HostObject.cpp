@@ -66,6 +66,11 @@ bool IsPut(CallKind pKind) noexcept {
   return pKind == CallKind::Let || pKind == CallKind::Set;
 }
 
+// What a caller wants to read may be a property or a function: only the object knows.
+WORD CallFlags(CallKind pKind) noexcept {
+  return static_cast<WORD>(pKind == CallKind::Get ? CallKind::MethodOrGet : pKind);
+}
+
 }  // namespace
 
 DISPID HostObject::FindMember(std::u16string_view pName) const {
@@ -93,7 +98,7 @@ Variant HostObject::Invoke(std::u16string_view pName, CallKind pKind, std::span<
   OwnedVariant answer;
   EXCEPINFO exception{};
   UINT faultAt = 0;
-  const HRESULT result = dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, static_cast<WORD>(pKind), &parameters,
+  const HRESULT result = dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, CallFlags(pKind), &parameters,
                                            IsPut(pKind) ? nullptr : &answer.value, &exception, &faultAt);
   if (result == DISP_E_EXCEPTION) RaiseException(exception);
   CheckResult(result);
