@@ -45,7 +45,7 @@ buffer.AddObject("text");
 buffer.ResetPos();
 check("value", buffer.NextObject(4));
 
-checkError("index outside", function () { vector.Value(99); });
+checkError("index outside", function () { return "" + vector.Value(99); });
 checkError("unset object", function () { vector.CopyFrom(null); });
 checkError("an object of another class", function () { vector.CopyFrom(buffer); });
 checkError("wrong type", function () { vector.AddValue("x"); });

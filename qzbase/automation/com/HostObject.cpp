@@ -66,11 +66,6 @@ bool IsPut(CallKind pKind) noexcept {
   return pKind == CallKind::Let || pKind == CallKind::Set;
 }
 
-// What a caller wants to read may be a property or a function: only the object knows.
-WORD CallFlags(CallKind pKind) noexcept {
-  return static_cast<WORD>(pKind == CallKind::Get ? CallKind::MethodOrGet : pKind);
-}
-
 }  // namespace
 
 DISPID HostObject::FindMember(std::u16string_view pName) const {
@@ -98,8 +93,14 @@ Variant HostObject::Invoke(std::u16string_view pName, CallKind pKind, std::span<
   OwnedVariant answer;
   EXCEPINFO exception{};
   UINT faultAt = 0;
-  const HRESULT result = dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, CallFlags(pKind), &parameters,
-                                           IsPut(pKind) ? nullptr : &answer.value, &exception, &faultAt);
+  const auto call = [&](CallKind pFlags) {
+    return dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, static_cast<WORD>(pFlags), &parameters,
+                             IsPut(pKind) ? nullptr : &answer.value, &exception, &faultAt);
+  };
+  HRESULT result = call(pKind);
+  // What is to be read may be a function. Not asked for in one call, which some script hosts take for a call of
+  // whatever the property holds.
+  if (result == DISP_E_MEMBERNOTFOUND && pKind == CallKind::Get) result = call(CallKind::MethodOrGet);
   if (result == DISP_E_EXCEPTION) RaiseException(exception);
   CheckResult(result);
   arguments.StoreChanges();
