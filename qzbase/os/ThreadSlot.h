@@ -22,7 +22,8 @@ class ThreadSlot {
   void Set(void* pValue);
 
  private:
-  std::uintptr_t key_;
+  void (*destroy_)(void*);
+  std::uintptr_t key_ = 0;
 };
 
 // The typed face: `static PerThread<State> state; state->member`.
