@@ -1,0 +1,85 @@
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "qzbase/os/ThreadSlot.h"
+
+namespace qzbase::tests {
+namespace {
+
+std::atomic<int> made{0};
+std::atomic<int> destroyed{0};
+
+struct Counted {
+  Counted() { ++made; }
+  ~Counted() { ++destroyed; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+  int value = 0;
+};
+
+class ThreadSlot : public testing::Test {
+ protected:
+  void SetUp() override { made = destroyed = 0; }
+};
+
+TEST_F(ThreadSlot, EveryThreadHasItsOwnValueUntilItEnds) {
+  constexpr int kThreads = 8;
+  os::PerThread<Counted> slot;
+  slot->value = -1;
+  std::vector<std::thread> threads;
+  std::atomic<int> wrong{0};
+  for (int i = 0; i < kThreads; ++i)
+    threads.emplace_back([&, i] {
+      if (slot->value != 0) ++wrong;
+      for (int k = 0; k < 1000; ++k) {
+        if (slot->value != (k == 0 ? 0 : i + k)) ++wrong;
+        slot->value = i + k + 1;
+      }
+    });
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(slot->value, -1);
+  EXPECT_EQ(made, kThreads + 1);
+  EXPECT_EQ(destroyed, kThreads);
+}
+
+TEST_F(ThreadSlot, TheSlotTakesTheValueOfItsThreadAlong) {
+  {
+    os::PerThread<Counted> used;
+    os::PerThread<Counted> unused;
+    used->value = 1;
+  }
+  EXPECT_EQ(made, 1);
+  EXPECT_EQ(destroyed, 1);
+}
+
+TEST_F(ThreadSlot, SlotsComeAndGo) {
+  // More than a process may have at once.
+  for (int i = 0; i < 5000; ++i) {
+    os::PerThread<Counted> slot;
+    ASSERT_EQ(slot->value, 0);
+    slot->value = i + 1;
+  }
+  EXPECT_EQ(destroyed, 5000);
+}
+
+TEST_F(ThreadSlot, ThePlainSlotHoldsWhatWasSetLast) {
+  static int destroyedValue = 0;
+  int first = 1;
+  int second = 2;
+  {
+    os::ThreadSlot slot([](void* pValue) { destroyedValue += *static_cast<int*>(pValue); });
+    EXPECT_EQ(slot.Get(), nullptr);
+    slot.Set(&first);
+    slot.Set(&second);
+    EXPECT_EQ(slot.Get(), &second);
+    std::thread([&] { EXPECT_EQ(slot.Get(), nullptr); }).join();
+  }
+  EXPECT_EQ(destroyedValue, 2);
+}
+
+}  // namespace
+}  // namespace qzbase::tests
