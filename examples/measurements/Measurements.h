@@ -24,8 +24,8 @@ class Measurements {
   // The record: tag "MS#1", number of columns, for each its name, whether it holds numbers, and its vector; tag "\MS".
   void SaveToBuffer(qzbase::CBuffer& pBuffer) const;
 
-  // std::runtime_error when the buffer holds another record, is damaged or was cut short; AutomationError where a value is of
-  // another type than expected.
+  // std::runtime_error when the buffer holds another record, is damaged or was cut short; AutomationError where a value
+  // is of another type than expected.
   static Measurements LoadFromBuffer(qzbase::CBuffer& pBuffer);
 
   bool IsEqual(const Measurements& pCompare) const;

@@ -19,7 +19,7 @@ Order OrderOf(int pSign) {
 Order CompareNumbers(double pLeft, double pRight) {
   const std::partial_ordering order = pLeft <=> pRight;
   if (order == std::partial_ordering::unordered) return Order::Unknown;
-  return order < 0 ? Order::Less : order > 0 ? Order::Greater : Order::Equal;
+  return std::is_lt(order) ? Order::Less : std::is_gt(order) ? Order::Greater : Order::Equal;
 }
 
 void RefuseObjects(const Variant& pValue) {

@@ -52,8 +52,7 @@ DecimalDigits::DecimalDigits(double pValue, std::int32_t pMaxDigits)
 void DecimalDigits::Read(std::string_view pText) noexcept {
   count_ = MantissaDigits(pText);
   digits_[0] = pText[0];
-  for (std::int32_t i = 1; i < count_; ++i)
-    digits_[static_cast<std::size_t>(i)] = pText[static_cast<std::size_t>(i + 1)];
+  for (std::size_t i = 1; i < static_cast<std::size_t>(count_); ++i) digits_[i] = pText[i + 1];  // behind the point
   const std::size_t exponent = pText.find('e') + 1;
   for (const char digit : pText.substr(exponent + 1)) point_ = point_ * 10 + (digit - '0');
   if (pText[exponent] == '-') point_ = -point_;

@@ -38,8 +38,8 @@ class Object : public std::enable_shared_from_this<Object> {
   Object& operator=(const Object&) = delete;
 
   // Calls the member `pName`, the default member for an empty name. Arguments are in the order of its parameters, the
-  // new value of a let or set last; a by-reference parameter changes its argument. Raises error 438 where the object has
-  // no such member, and what the member raises.
+  // new value of a let or set last; a by-reference parameter changes its argument. Raises error 438 where the object
+  // has no such member, and what the member raises.
   //
   // The classes of this library have the members of their tables (automation/ClassTable.h). Objects from elsewhere, a
   // host's own or a test's, override it.

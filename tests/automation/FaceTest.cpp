@@ -179,8 +179,8 @@ TEST(Face, WrongCountsAreRefused) {
     const auto parameters = pClass.members->Parameters(pMember);
     const auto errorWith = [&](std::size_t pCount) {
       std::vector<Variant> arguments(pCount);
-      std::vector<Variant*> pointers;
-      for (Variant& each : arguments) pointers.push_back(&each);
+      std::vector<Variant*> pointers(pCount);
+      std::transform(arguments.begin(), arguments.end(), pointers.begin(), [](Variant& pEach) { return &pEach; });
       try {
         InvokeById(pClass, *object, pMember.id, kinds.at(pMember.kind), pointers);
         return 0;

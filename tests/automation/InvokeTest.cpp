@@ -1,4 +1,5 @@
 // Late binding: how calls by name reach members, what becomes of their arguments, and the numbers of what goes wrong.
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -85,8 +86,8 @@ std::string Answer(const std::function<Variant()>& pCall) {
 }
 
 std::vector<Variant*> Pointers(std::vector<Variant>& pVariables) {
-  std::vector<Variant*> pointers;
-  for (Variant& each : pVariables) pointers.push_back(&each);
+  std::vector<Variant*> pointers(pVariables.size());
+  std::transform(pVariables.begin(), pVariables.end(), pointers.begin(), [](Variant& pEach) { return &pEach; });
   return pointers;
 }
 
@@ -271,8 +272,8 @@ TEST(Invoke, ChangesByReferenceArgumentsOnSuccessOnly) {
 
     arguments = row.before;
     if (row.name == u"ChangePoint" && !arguments[0].IsEmpty()) arguments[0] = Point(1, u"a");
-    std::vector<std::string> before;
-    for (const Variant& each : arguments) before.push_back(Show(each));
+    std::vector<std::string> before(arguments.size());
+    std::transform(arguments.begin(), arguments.end(), before.begin(), Show);
     arguments.push_back(Variant(true));
     EXPECT_EQ(Answer([&] { return InvokeByName(kSample, sample, row.name, CallKind::Method, Pointers(arguments)); }),
               "error 61");

@@ -62,13 +62,14 @@ double Sample::Total(const Array<double>& pValues) const {
 }
 
 std::u16string Sample::Join(Array<std::u16string> pTexts) const {
-  std::u16string text;
-  for (const std::u16string& each : pTexts) text += each + u";";
-  return text;
+  for (std::u16string& each : pTexts.Elements()) each += u';';
+  return std::accumulate(pTexts.begin(), pTexts.end(), std::u16string());
 }
 
 SamplePoint Sample::Middle(SamplePoint pFirst, const SamplePoint& pSecond) const {
-  return {(pFirst.X + pSecond.X) / 2, pFirst.Label + pSecond.Label, pSecond.Bytes};
+  pFirst.X = (pFirst.X + pSecond.X) / 2;
+  pFirst.Label += pSecond.Label;
+  return pFirst;
 }
 
 Array<SamplePoint> Sample::Points(std::int32_t pCount) const {

@@ -258,7 +258,7 @@ bool IsKnown(const char* pLocale) {
 }
 
 // The calendar of the patterns is the Gregorian one, whatever is customary.
-std::string WithGregorianCalendar(std::string pLocale) {
+std::string WithGregorianCalendar(const std::string& pLocale) {
   return pLocale.empty() ? pLocale : pLocale + "@calendar=gregorian;numbers=latn";
 }
 
