@@ -19,21 +19,11 @@ namespace {
 
 constexpr std::size_t kMostMemory = std::size_t{32} * 1024 * 1024;
 
-template <QZVarType kType>
-void ReadObject(CBuffer& pBuffer) {
+template <auto Next>
+void ReadFirst(CBuffer& pBuffer) {
   pBuffer.ResetPos();
   pBuffer.NextTag();
-  pBuffer.NextObject(kType);
-}
-
-void ReadData(CBuffer& pBuffer) {
-  pBuffer.ResetPos();
-  pBuffer.NextTag();
-  pBuffer.NextData();
-}
-
-void Dump(CBuffer& pBuffer) {
-  pBuffer.GetString();
+  (pBuffer.*Next)();
 }
 
 template <class Vector>
@@ -48,14 +38,12 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CLngVector>,
                                             &Load<CStrVector>,
                                             &Load<CBoolVector>,
-                                            &Dump,
-                                            &ReadData,
-                                            &ReadObject<EVTLong>,
-                                            &ReadObject<EVTString>,
-                                            &ReadObject<EVTDouble>,
-                                            &ReadObject<EVTBoolean>,
-                                            &ReadObject<EVTDate>,
-                                            &ReadObject<EVTColor>};
+                                            &ReadFirst<&CBuffer::NextLong>,
+                                            &ReadFirst<&CBuffer::NextString>,
+                                            &ReadFirst<&CBuffer::NextData>,
+                                            &ReadFirst<&CBuffer::NextDouble>,
+                                            &ReadFirst<&CBuffer::NextBoolean>,
+                                            &ReadFirst<&CBuffer::GetString>};
   CBuffer buffer;
   for (std::size_t i = 0; i < std::size(kLoaders); ++i) {
     buffer.LetByteArray({0, pBytes});
