@@ -5,7 +5,10 @@
 // memory: a block size of a thousand million costs nothing. Memory grows by doubling, up to the capacity. Slots cut off
 // by a smaller capacity are forgotten.
 //
-// A change of size sets the size first: where the storage then fails to follow, the new size stays.
+// A change of size sets the size first: where the storage then fails to follow, the new size stays. Deleting, sorting
+// and copying over elements without slots raise error 9 before anything is moved.
+//
+// Error 7 (out of memory) is raised where memory does not suffice.
 #pragma once
 
 #include <algorithm>
@@ -19,6 +22,7 @@
 #include "qzbase/data/BlockGrowth.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/Memory.h"
 
 namespace qzbase {
 
@@ -76,9 +80,11 @@ class BlockStorage {
 
   // All slots, up to the capacity.
   Slots AllSlots() const {
-    Slots slots(static_cast<std::size_t>(capacity_));
-    std::copy(slots_.begin(), slots_.end(), slots.begin());
-    return slots;
+    return runtime::WithMemory([this] {
+      Slots slots(static_cast<std::size_t>(capacity_));
+      std::copy(slots_.begin(), slots_.end(), slots.begin());
+      return slots;
+    });
   }
 
  private:
@@ -127,8 +133,9 @@ void BlockStorage<T>::ReDim(std::int32_t pCapacity) {
 template <class T>
 void BlockStorage<T>::GrowTo(std::int32_t pIndex) {
   CheckIndex(pIndex);
-  const std::size_t wanted = std::max({static_cast<std::size_t>(pIndex), 2 * slots_.size(), kFirstSlots});
-  slots_.resize(std::min(wanted, static_cast<std::size_t>(capacity_)));
+  const auto needed = static_cast<std::size_t>(pIndex);
+  const std::size_t wanted = std::max({needed, 2 * slots_.size(), kFirstSlots});
+  runtime::Grow(slots_, needed, std::min(wanted, static_cast<std::size_t>(capacity_)));
 }
 
 template <class T>
@@ -154,6 +161,7 @@ template <class T>
 void BlockStorage<T>::CopyElements(const BlockStorage& pSource) {
   if (size_ < 1) return;
   pSource.CheckIndex(size_);
+  if (&pSource == this) return;
   const auto count = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(size_), pSource.slots_.size()));
   if (count > 0) MakeSlots(count);
   std::copy_n(pSource.slots_.begin(), count, slots_.begin());

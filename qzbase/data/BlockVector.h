@@ -19,7 +19,8 @@ class BlockVector : public TypedVector<Self, Element> {
   using Base::Value;
   using typename Base::Argument;
 
-  // The number of slots by which storage grows, 16 at first; storage follows at once. Error 11 for 0, 9 below.
+  // The number of slots by which storage grows, 16 at first; storage follows at once. Error 11 for 0, 9 or
+  // 6 below.
   void LetBlockSize(std::int32_t pBlockSize) { this->storage_.LetBlockSize(pBlockSize); }
 
   void AddUniqueValue(Argument pValue) {
@@ -27,7 +28,9 @@ class BlockVector : public TypedVector<Self, Element> {
   }
 
   // VectorSort.h says where what comes to stand.
-  void Sort(bool pAscending = true) { SortElements(this->storage_.Elements(), pAscending); }
+  void Sort(bool pAscending = true) {
+    runtime::WithMemory([&] { SortElements(this->storage_.Elements(), pAscending); });
+  }
 
   std::int32_t NrValid() const;
 };

@@ -10,9 +10,10 @@ typename Element::IndexOfClosest NumberVector<Self, Element>::ClosestIndex(Type 
                                                                            std::int32_t pEndIndex) const {
   const std::int32_t end = pEndIndex <= pStartIndex ? Size() : pEndIndex;
   std::int32_t best = pStartIndex;
-  Type bestDistance = Element::Distance(pValue, Value(pStartIndex));
-  for (std::int32_t i = pStartIndex; i < end && bestDistance != 0;) {
-    const Type distance = Element::Distance(pValue, Value(++i));
+  Type distance = Element::Distance(pValue, Value(pStartIndex));
+  Type bestDistance = distance;
+  for (std::int32_t i = pStartIndex; i < end && distance != 0;) {  // 0 ends it even behind a not-a-number, its better
+    distance = Element::Distance(pValue, Value(++i));
     if (!(distance < bestDistance)) continue;
     best = i;
     bestDistance = distance;

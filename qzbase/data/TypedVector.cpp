@@ -1,6 +1,8 @@
 #include "qzbase/data/TypedVector.h"
 
 #include <algorithm>
+#include <concepts>
+#include <type_traits>
 
 #include "qzbase/data/CBoolVector.h"
 #include "qzbase/data/CDblVector.h"
@@ -33,6 +35,15 @@ std::u16string_view TakePiece(std::u16string_view& pText) {
   return piece;
 }
 
+// What was reached before an error stays.
+template <class Call>
+void WithoutErrors(Call pCall) {
+  try {
+    runtime::WithMemory(pCall);
+  } catch (const runtime::AutomationError&) {
+  }
+}
+
 }  // namespace
 
 template <class Self, class Element>
@@ -44,30 +55,33 @@ void TypedVector<Self, Element>::SetFromArray(const runtime::Array<Type>& InArra
 
 template <class Self, class Element>
 void TypedVector<Self, Element>::SetFromString(std::u16string_view pString) {
-  std::u16string_view rest = WithoutBrackets(WithoutBrackets(pString, u"("), u"{");
-  const std::int32_t count = CountPieces(rest);
-  try {
-    LetSize(count);
-  } catch (const runtime::AutomationError&) {
-    // As many slots as there are take their pieces.
-  }
-  const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = 1; i <= std::min(count, storage_.Capacity()); ++i) {
-    Type value{};
-    if (Element::Read(TakePiece(rest), value, rules)) storage_.Store(i, std::move(value));
-  }
+  // A text of texts may lie in a slot of this vector.
+  using Text = std::conditional_t<std::same_as<Type, std::u16string>, std::u16string, std::u16string_view>;
+  WithoutErrors([&] {
+    const Text text(pString);
+    std::u16string_view rest = WithoutBrackets(WithoutBrackets(text, u"("), u"{");
+    const std::int32_t count = CountPieces(rest);
+    WithoutErrors([&] { LetSize(count); });  // as many slots as there are take their pieces
+    const runtime::LocaleRules& rules = runtime::ThreadLocale();
+    for (std::int32_t i = 1; i <= std::min(count, storage_.Capacity()); ++i) {
+      Type value{};
+      if (Element::Read(TakePiece(rest), value, rules)) storage_.Store(i, std::move(value));
+    }
+  });
 }
 
 template <class Self, class Element>
 std::u16string TypedVector<Self, Element>::GetString() const {
-  const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  std::u16string text = u"(";
-  for (std::int32_t i = 0; i < Size(); ++i) {
-    if (i > 0) text += kDelimiter;
-    Element::AppendText(text, Value(i + 1), rules);
-  }
-  text += u')';
-  return text;
+  return runtime::WithMemory([this] {
+    const runtime::LocaleRules& rules = runtime::ThreadLocale();
+    std::u16string text = u"(";
+    for (std::int32_t i = 0; i < Size(); ++i) {
+      if (i > 0) text += kDelimiter;
+      Element::AppendText(text, Value(i + 1), rules);
+    }
+    text += u')';
+    return text;
+  });
 }
 
 template <class Self, class Element>

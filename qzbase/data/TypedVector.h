@@ -15,8 +15,8 @@
 //
 // Record: tag "VE#1", the size as a long, each element in the record of its type, tag "\VE".
 //
-// Raises error 6 where a size leaves 32 bits or the storage has more than 32,767 blocks, and what the buffer raises.
-// What was reached before an error stays.
+// Raises error 6 where a size leaves 32 bits or the storage has more than 32,767 blocks, 7 where memory does not
+// suffice, and what the buffer raises. What was reached before an error stays.
 #pragma once
 
 #include <cstdint>

@@ -1,7 +1,4 @@
 // The dump of a buffer, for people who look for a fault.
-#include <array>
-#include <charconv>
-
 #include "qzbase/persist/CBuffer.h"
 #include "qzbase/runtime/Convert.h"
 #include "qzbase/runtime/DatePattern.h"
@@ -44,7 +41,7 @@ void AppendData(std::u16string& pText, const runtime::Array<std::uint8_t>& pData
 
 // A record may hold any double; one outside the calendar shows as its number of days, for a dump has to go on.
 void AppendDate(std::u16string& pText, runtime::Date pDate) {
-  if (pDate.days >= runtime::kFirstDate && pDate.days < runtime::kLastDate)
+  if (runtime::IsInCalendar(pDate))
     pText += runtime::FormatDate(pDate, u"dd.mm.yyyy hh:nn:ss");
   else
     AppendNumberText(pText, pDate.days);

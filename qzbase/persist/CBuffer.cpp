@@ -9,6 +9,7 @@
 #include "qzbase/persist/Crc.h"
 #include "qzbase/runtime/CheckedNarrow.h"
 #include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/Memory.h"
 
 namespace qzbase {
 namespace {
@@ -26,6 +27,10 @@ constexpr std::size_t kFirstBytes = 256;         // of memory
 constexpr std::int32_t kCountSize = 4;           // bytes of a count
 constexpr std::int64_t kCountTolerance = 65536;  // by which a count may exceed the bytes left
 constexpr std::int32_t kCheckSumStart = 101192;  // do not change: checksums are compared with stored ones
+
+Bytes CopyOf(std::span<const std::uint8_t> pBytes) {
+  return runtime::WithMemory([&] { return Bytes(pBytes.begin(), pBytes.end()); });
+}
 
 void CheckCount(std::int32_t pCount, std::int32_t pBytesLeft) {
   if (pCount - std::int64_t{std::max(pBytesLeft, 0)} > kCountTolerance) Raise(RuntimeError::OutOfMemory);
@@ -89,7 +94,7 @@ void CBuffer::GrowBy(std::int32_t pCount) {
   const auto end = CheckedNarrow<std::int32_t>(std::int64_t{cursor_} + pCount);
   if (end - 1 > capacity) Raise(RuntimeError::SubscriptOutOfRange);
   const std::size_t needed = static_cast<std::size_t>(std::max(size, end)) + 1;
-  if (needed > bytes_.size()) bytes_.resize(std::max(needed, 2 * bytes_.size()));
+  if (needed > bytes_.size()) runtime::Grow(bytes_, needed, std::max(needed, 2 * bytes_.size()));
   size_ = size;
   capacity_ = capacity;
 }
@@ -102,13 +107,13 @@ void CBuffer::Trim() {
 
 Array<std::uint8_t> CBuffer::ByteArray() const {
   capacity_ = size_;
-  return {0, Bytes(bytes_.begin(), bytes_.begin() + size_ + 1)};
+  return {0, CopyOf(std::span(bytes_).first(static_cast<std::size_t>(size_) + 1))};
 }
 
 void CBuffer::LetByteArray(const Array<std::uint8_t>& pBytes) {
   const std::span<const std::uint8_t> bytes = FromIndexZero(pBytes);
   if (bytes.empty()) Raise(RuntimeError::SubscriptOutOfRange);
-  Adopt(Bytes(bytes.begin(), bytes.end()));
+  Adopt(CopyOf(bytes));
 }
 
 void CBuffer::CopyFrom(const CBuffer& pSource) {

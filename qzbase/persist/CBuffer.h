@@ -30,8 +30,13 @@
 // Older buffers have no header, or a flag of 0. Their records have no markers and no tags, and every value read by
 // NextObject is preceded by one byte. They can be read; what is written always has markers.
 //
-// Counts in foreign bytes are not trusted: where one asks for over 65,536 bytes or elements more than bytes are left,
-// error 7 (out of memory) is raised before anything is allocated. Sizes past 32 bits raise error 6.
+// Counts in foreign bytes are not trusted: where that of a tag, a string or a container asks for over 65,536 bytes or
+// elements more than bytes are left, error 7 (out of memory) is raised before anything is allocated. A data block that
+// is not all there is two zero bytes, or error 6 (overflow) where its end would leave 32 bits. A negative count of a
+// tag or data block raises error 9.
+//
+// Writing raises error 6 where the size leaves 32 bits and 7 where memory does not suffice; the buffer is unchanged
+// then. Where a host has given InvVarType the number 0, which raises nothing, error 13 comes in its place.
 #pragma once
 
 #include <cstdint>
@@ -95,20 +100,22 @@ class CBuffer final : public runtime::Object {
   // Memory itself grows by doubling.
   std::int32_t Capacity() const noexcept { return capacity_; }
 
-  // One line for each tag, for people. Reads through the cursor, and raises what the readers raise.
+  // One line for each tag, for people. Reads from the first record, and leaves the cursor at the end of the data or on
+  // the record that could not be read. Raises what the readers raise.
   std::u16string GetString();
 
   // Bounds 0 to `Size`: one byte more than the data, so that the upper bound, which the let takes for the size, gives
-  // the same size again. Trims the storage.
+  // the same size again. Trims the capacity; memory is given back by `Trim` alone.
   runtime::Array<std::uint8_t> ByteArray() const;
   void LetByteArray(const runtime::Array<std::uint8_t>& pBytes);  // error 9 where there is no byte 0
 
-  void CopyFrom(const CBuffer& pSource);
+  void CopyFrom(const CBuffer& pSource);  // trims the capacity of the source, as `ByteArray` does
   runtime::Ref<CBuffer> GetCopy() const;
 
   std::int32_t CheckSum() const noexcept;
 
   // Equal sizes and equal bytes from the second one to the one behind the data: the first byte never counts.
+  // Trims the capacities of both where the sizes are equal.
   bool BinaryEqual(const CBuffer& pBuffer) const;
 
  private:
@@ -180,12 +187,17 @@ inline bool CBuffer::CheckMarker(RecordMarker pExpected, std::int32_t& pIndex) c
   return true;
 }
 
-// Zero where the data ends, before the record or within it.
+// Zero where the data ends, before the record or within it. A whole record with its marker is asked for first: that is
+// the rule, and costs two comparisons.
 template <auto GetFromBuff, class Value>
 Value CBuffer::NextFixed(RecordMarker pMarker) {
+  constexpr auto kLength = static_cast<std::int32_t>(sizeof(Value));
   Value value{};
   std::int32_t index = cursor_;
-  if (CheckMarker(pMarker, index) && static_cast<std::int32_t>(sizeof value) <= size_ - index)
+  const bool isWhole = typed_ && kLength < size_ - index;
+  if (isWhole && bytes_[static_cast<std::size_t>(index)] == static_cast<std::uint8_t>(pMarker)) [[likely]]
+    index = GetFromBuff(bytes_.data(), index + 1, value);
+  else if (CheckMarker(pMarker, index) && kLength <= size_ - index)
     index = GetFromBuff(bytes_.data(), index, value);
   cursor_ = index;
   return value;

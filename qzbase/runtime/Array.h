@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/Memory.h"
 
 namespace qzbase::runtime {
 
@@ -26,24 +28,26 @@ class Array {
 
   Array(std::int32_t pLower, std::vector<T> pElements)
       : lower_(pLower), allocated_(true), elements_(std::move(pElements)) {
-    if (elements_.size() >
-        static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max() - (pLower > 0 ? pLower : 0)))
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    if (elements_.size() > static_cast<std::size_t>(pLower > 0 ? kMost - (pLower - 1) : kMost))
       Raise(RuntimeError::OutOfMemory);
   }
 
   bool IsAllocated() const noexcept { return allocated_; }
   std::int32_t LowerBound() const { return CheckAllocated(), lower_; }
-  std::int32_t UpperBound() const { return CheckAllocated(), lower_ + Size() - 1; }
+  std::int32_t UpperBound() const {
+    return CheckAllocated(), CheckedNarrow<std::int32_t>(std::int64_t{lower_} + Size() - 1);
+  }
   std::int32_t Size() const noexcept { return static_cast<std::int32_t>(elements_.size()); }
 
   typename std::vector<T>::reference operator[](std::int32_t pIndex) { return elements_[Offset(pIndex)]; }
   typename std::vector<T>::const_reference operator[](std::int32_t pIndex) const { return elements_[Offset(pIndex)]; }
 
-  // New bounds, all contents dropped.
+  // New bounds, all contents dropped. Error 7 where memory does not suffice.
   void ReDim(std::int32_t pLower, std::int32_t pUpper) {
     const std::int64_t count = std::int64_t{pUpper} - pLower + 1;
     if (count < 0 || count > std::numeric_limits<std::int32_t>::max()) Raise(RuntimeError::SubscriptOutOfRange);
-    elements_.assign(static_cast<std::size_t>(count), T{});
+    WithMemory([&] { elements_.assign(static_cast<std::size_t>(count), T{}); });
     lower_ = pLower;
     allocated_ = true;
   }

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <optional>
 
 #include "qzbase/runtime/AutomationError.h"
 
@@ -26,11 +27,15 @@ sys_days DayOf(const DateParts& pParts) {
   return DayOf(pParts.year, pParts.month, pParts.day);
 }
 
-}  // namespace
+struct DayAndSecond {
+  std::int32_t day;
+  std::int32_t second;
+};
 
-DateParts SplitDate(Date pDate) {
+// Rounded to the nearest second; empty outside the calendar's years.
+std::optional<DayAndSecond> Rounded(Date pDate) {
   // The whole first day counts, though with its fraction it lies below `kFirstDate`. Not-a-number fails as well.
-  if (!(pDate.days > kFirstDate - 1 && pDate.days < kLastDate)) Raise(RuntimeError::InvalidArgument);
+  if (!(pDate.days > kFirstDate - 1 && pDate.days < kLastDate)) return std::nullopt;
   const double wholeDays = std::trunc(pDate.days);
   auto day = static_cast<std::int32_t>(wholeDays);
   auto seconds = static_cast<std::int32_t>(
@@ -39,9 +44,21 @@ DateParts SplitDate(Date pDate) {
     seconds = 0;
     ++day;
   }
-  if (day >= kLastDate) Raise(RuntimeError::InvalidArgument);
+  if (day >= kLastDate) return std::nullopt;
+  return DayAndSecond{day, seconds};
+}
 
-  const year_month_day date(kDayZero + days(day));
+}  // namespace
+
+bool IsInCalendar(Date pDate) {
+  return Rounded(pDate).has_value();
+}
+
+DateParts SplitDate(Date pDate) {
+  const std::optional<DayAndSecond> rounded = Rounded(pDate);
+  if (!rounded) Raise(RuntimeError::InvalidArgument);
+  const std::int32_t seconds = rounded->second;
+  const year_month_day date(kDayZero + days(rounded->day));
   return {.year = static_cast<int>(date.year()),
           .month = static_cast<std::int32_t>(static_cast<unsigned>(date.month())),
           .day = static_cast<std::int32_t>(static_cast<unsigned>(date.day())),

@@ -30,6 +30,9 @@ struct DateParts {
   bool operator==(const DateParts&) const = default;
 };
 
+// Whether the date, rounded to the nearest second, lies in the calendar's years: as `SplitDate` takes it.
+bool IsInCalendar(Date pDate);
+
 // Raises error 5 (invalid argument) outside the calendar's years.
 DateParts SplitDate(Date pDate);
 

@@ -63,8 +63,7 @@ std::u16string FormatNull(std::u16string_view pPattern, const LocaleRules& pRule
 // A number that is no day of the calendar has its default text.
 std::u16string FormatAsDate(const Variant& pValue, double pDays, std::u16string_view pPattern,
                             const LocaleRules& pRules, WeekRule pWeek) {
-  const bool inCalendar = pDays >= kFirstDate && pDays < kLastDate;
-  if (!inCalendar && pValue.Kind() != VariantKind::Date) return NumberText(pDays, pRules);
+  if (pValue.Kind() != VariantKind::Date && !IsInCalendar({pDays})) return NumberText(pDays, pRules);
   return FormatDate({pDays}, pPattern, pRules, pWeek);
 }
 

@@ -25,6 +25,10 @@ bool IsDigit(char16_t pCharacter) {
 
 // An expression while words in it are replaced: what is done, followed by what is left of the source. Positions count
 // through both, from 0, so that the text is never copied as a whole.
+//
+// The search goes on inside what was inserted. An occurrence there would mostly be found again in its own replacement,
+// for ever, and is passed over. Two kinds are not: one that ends behind the inserted text, since it uses that up, and
+// one before the very last character, since that is no follower now and will be one when more text stands behind it.
 class WordReplacement {
  public:
   WordReplacement(std::u16string_view pSource, std::u16string_view pOld, std::u16string_view pNew)
@@ -45,7 +49,7 @@ class WordReplacement {
   }
 
   bool FindNext() {
-    if (search_ < done_.size() && FindAcross()) return true;
+    if (search_ < done_.size() && (FindAcross() || FindBeforeLast())) return true;
     const std::size_t start = std::max(search_, done_.size());
     found_ = Find(left_, old_, start - done_.size());
     if (found_ == kNotFound) return false;
@@ -65,21 +69,38 @@ class WordReplacement {
     return true;
   }
 
+  // Looks for an occurrence in inserted text before the last character of all, which as a follower would forbid its
+  // replacement. Once is enough: only what never ends comes here again.
+  bool FindBeforeLast() {
+    const std::size_t length = old_.size() + 1;
+    if (!left_.empty() || lastIsSplitOff_ || done_.size() < search_ + length || MayFollow(done_.back())) return false;
+    found_ = done_.size() - length;
+    return runtime::EqualText(std::u16string_view(done_).substr(found_, old_.size()), old_);
+  }
+
+  static bool Separates(char16_t pCharacter) { return pCharacter != u'.' && !BelongsToWord(pCharacter); }
+  static bool MayFollow(char16_t pCharacter) { return pCharacter != u'(' && Separates(pCharacter); }
+
   bool IsWholeWord() const {
-    const auto separates = [](char16_t pCharacter) { return pCharacter != u'.' && !BelongsToWord(pCharacter); };
-    if (found_ > 0 && !separates(At(found_ - 1))) return false;
+    if (found_ > 0 && !Separates(At(found_ - 1))) return false;
     const std::size_t follower = found_ + old_.size();
-    return follower + 1 >= Size() || (At(follower) != u'(' && separates(At(follower)));
+    return follower + 1 >= Size() || MayFollow(At(follower));
   }
 
   void Replace() {
-    const std::size_t behind = found_ + old_.size() - done_.size();  // in what is left
+    const std::size_t end = found_ + old_.size();
+    if (end < done_.size()) {
+      left_ = new_.substr(new_.size() - 1);
+      lastIsSplitOff_ = true;
+      done_.resize(end);
+    }
+    const std::size_t used = end - done_.size();  // of what is left
     if (found_ < done_.size())
       done_.resize(found_);
     else
       done_.append(left_.substr(0, found_ - done_.size()));
     done_.append(new_);
-    left_.remove_prefix(behind);
+    left_.remove_prefix(used);
   }
 
   std::u16string done_;
@@ -88,6 +109,7 @@ class WordReplacement {
   std::u16string_view new_;
   std::size_t search_ = 0;  // where the search goes on
   std::size_t found_ = 0;   // the occurrence found last
+  bool lastIsSplitOff_ = false;
 };
 
 }  // namespace

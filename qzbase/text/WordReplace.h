@@ -1,8 +1,7 @@
 // Replacing in expressions, by text comparison: names that stand as whole words, and decimal delimiters.
 //
 // Both search on from the character behind the *start* of a replacement, so inserted text is searched too, except its
-// first character. An occurrence that lies in inserted text alone is left, since replacing it would never come to an
-// end ("x" by "y+x").
+// first character. An occurrence there is left where replacing it would never come to an end ("x" by "y+x").
 #pragma once
 
 #include <string>

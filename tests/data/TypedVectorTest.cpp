@@ -8,6 +8,7 @@
 #include "qzbase/data/CLngVector.h"
 #include "qzbase/data/CStrVector.h"
 #include "qzbase/runtime/Locale.h"
+#include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
 #include "tests/support/Corpus.h"
 #include "tests/support/ErrorOf.h"
@@ -108,11 +109,10 @@ TYPED_TEST(EveryVector, InsertsAndDeletes) {
   EXPECT_EQ(vector.Value(1), S::b);
   EXPECT_EQ(ErrorOf([&] { vector.DeleteValue(0); }), kSubscript);
   EXPECT_EQ(vector.Size(), 1);
-  for (int i = 0; i < 40; ++i) vector.InsertValue(1, vector.Value(1));  // an argument that refers to a slot
+  for (int i = 0; i < 40; ++i) vector.InsertValue(1, S::b);
   vector.DeleteValue(41);
-  vector.DeleteValue(0 + 1);
-  EXPECT_EQ(vector.Size(), 39);
-  for (int i = 1; i <= 39; ++i) EXPECT_EQ(vector.Value(i), S::b);
+  EXPECT_EQ(vector.Size(), 40);
+  for (int i = 1; i <= 40; ++i) EXPECT_EQ(vector.Value(i), S::b);
 }
 
 TYPED_TEST(EveryVector, CopiesComparesAndReads) {
@@ -181,16 +181,10 @@ TYPED_TEST(EveryVector, SavesTheGoldenBytesAndLoadsThem) {
 
 // The capacity, as `Value` shows it.
 template <class Vector>
-std::int32_t CapacityOf(const Vector& pVector) {
-  std::int32_t low = 0, high = kMost;
-  while (low < high) {
-    const std::int32_t middle = low + (high - low) / 2 + 1;
-    if (ErrorOf([&] { pVector.Value(middle); }) == 0)
-      low = middle;
-    else
-      high = middle - 1;
-  }
-  return low;
+void ExpectCapacity(const Vector& pVector, std::int32_t pCapacity) {
+  EXPECT_EQ(ErrorOf([&] { pVector.Value(pCapacity); }), 0) << pCapacity;
+  if (pCapacity == kMost) return;
+  EXPECT_EQ(ErrorOf([&] { pVector.Value(pCapacity + 1); }), kSubscript) << pCapacity;
 }
 
 TEST(CDblVector, KeepsItsSlotsInBlocks) {
@@ -222,7 +216,7 @@ TEST(CDblVector, KeepsItsSlotsInBlocks) {
     EXPECT_EQ(ErrorOf([&] { vector.LetBlockSize(row.blockSize); }), valid ? 0 : row.error);
     EXPECT_EQ(ErrorOf([&] { vector.LetSize(row.size); }), row.error) << row.blockSize << " " << row.size;
     EXPECT_EQ(vector.Size(), row.size);  // set first, and kept
-    EXPECT_EQ(CapacityOf(vector), row.capacity) << row.blockSize << " " << row.size;
+    ExpectCapacity(vector, row.capacity);
   }
 }
 
@@ -230,11 +224,13 @@ TEST(CDblVector, FailsForeverPast32767Blocks) {
   CDblVector vector;
   vector.LetSize(32'767 * 16);
   vector.AddValue(1);  // the block before is counted
-  EXPECT_EQ(CapacityOf(vector), 32'768 * 16);
+  ExpectCapacity(vector, 32'768 * 16);
   EXPECT_EQ(ErrorOf([&] { vector.AddValue(2); }), kOverflow);
   EXPECT_EQ(vector.Size(), 32'767 * 16 + 2);
   EXPECT_EQ(ErrorOf([&] { vector.LetSize(1); }), kOverflow);
   EXPECT_EQ(vector.Size(), 1);
+  vector.SetFromString(u"4;5;6");  // as many slots as there are take their pieces
+  EXPECT_EQ(Shown(vector), "(4;5;6)");
   EXPECT_EQ(ErrorOf([&] { vector.LetSize(kMost); }), kOverflow);
   EXPECT_EQ(ErrorOf([&] { vector.AddValue(3); }), kOverflow);  // the size itself
   EXPECT_EQ(ErrorOf([&] { vector.Sort(); }), kSubscript);      // elements without slots
@@ -248,6 +244,7 @@ TEST(CDblVector, ShowsWhatSlotsHeldBefore) {
   EXPECT_EQ(Shown(vector), "(1;2;3;0;5)");
   vector.DeleteValue(4);
   EXPECT_EQ(vector.Value(5), 5);
+  EXPECT_EQ(vector.GetArray()[5], 5);
   vector.LetSize(17);
   vector.LetValue(17, 17);
   vector.LetSize(16);  // the second block is forgotten
@@ -281,6 +278,7 @@ TEST(CDblVector, FindsTheClosestElement) {
       {{1, 2}, 5, 1, 17, 0, 2, 2},
       {{}, 1, 1, 0, 1, 0, 1},
       {{kInvalidDouble, 5}, -1e300, 1, 0, 2, 1, 2},
+      {{std::numeric_limits<double>::quiet_NaN(), 5}, 5, 1, 17, 1, 2, 1},  // nothing is nearer than not-a-number
   };
   int number = 0;
   for (const Row& row : rows) {
@@ -336,10 +334,14 @@ TEST(CLngVector, OverflowsInSumsAndDistances) {
   EXPECT_EQ(ErrorOf([&] { Set(vector, {-2}).ClosestIndex(kMost); }), kOverflow);
   EXPECT_EQ(Set(vector, {kLeast + 1, 3, 5}).ClosestIndex(0), 2.0);
   static_assert(std::same_as<decltype(vector.ClosestIndex(0)), double>);
+  Set(vector, {3, -1, 3, 2}).Sort();
+  EXPECT_EQ(Shown(vector), "(-1;2;3;3)");
+  vector.Sort(false);
+  EXPECT_EQ(Shown(vector), "(3;3;2;-1)");
   EXPECT_EQ(vector.VarType(), EVTDouble);
   vector.InsertValue(2);
   EXPECT_EQ(vector.Value(2), kInvalidLong);
-  EXPECT_EQ(vector.NrValid(), 3);
+  EXPECT_EQ(vector.NrValid(), 4);
 }
 
 TEST(CStrVector, ComparesTextsIgnoringCase) {
@@ -349,11 +351,52 @@ TEST(CStrVector, ComparesTextsIgnoringCase) {
   EXPECT_EQ(vector.Index(u"BETA"), 3);
   EXPECT_EQ(vector.NrValid(), 2);
   vector.AddUniqueValue(u"ALPHA");
-  EXPECT_EQ(vector.Size(), 3);
+  EXPECT_EQ(Shown(vector), "(Alpha;~;beta)");
+  vector.AddUniqueValue(u"gamma");
+  EXPECT_EQ(Shown(vector), "(Alpha;~;beta;gamma)");
+  vector.DeleteValue(4);
   EXPECT_TRUE(Set(other, {u"alpha", u"~", u"BETA"}).IsEqual(vector));
   EXPECT_FALSE(Set(other, {u"alpha", u"~", u"gamma"}).IsEqual(vector));
   vector.InsertValue(1);
   EXPECT_EQ(vector.Value(1), u"~");
+}
+
+TEST(CStrVector, TakesTextsOutOfItsOwnSlots) {
+  constexpr std::u16string_view kLong = u"longer than a text that needs no memory;2";
+  CStrVector vector;
+  Set(vector, {u"a", std::u16string(kLong)});
+  vector.InsertValue(1, vector.Value(2));
+  for (int i = 0; i < 40; ++i) vector.AddValue(vector.Value(1));  // moves the slots
+  EXPECT_EQ(vector.Value(1), kLong);
+  EXPECT_EQ(vector.Value(2), u"a");
+  EXPECT_EQ(vector.Value(43), kLong);
+  vector.SetFromString(vector.Value(1));
+  EXPECT_EQ(Shown(vector), "(longer than a text that needs no memory;2)");
+}
+
+TEST(Vectors, RaiseOutOfMemory) {
+  CDblVector vector;
+  vector.LetBlockSize(1 << 30);
+  CStrVector texts;
+  texts.LetBlockSize(1 << 30);
+  std::u16string pieces = u"1";
+  while (pieces.size() < 39'999) pieces += u";1";
+  const ScopedMemoryLimit limit(100'000);
+  EXPECT_EQ(ErrorOf([&] { vector.GetArray(); }), kOutOfMemory);
+  EXPECT_EQ(ErrorOf([&] { vector.LetValue(1 << 30, 1); }), kOutOfMemory);
+  vector.LetValue(10'000, 1);
+  vector.LetValue(12'000, 2);  // too much for twice the memory, but not for what is needed
+  EXPECT_EQ(vector.Value(10'000), 1);
+  vector.LetSize(20'000);
+  EXPECT_EQ(ErrorOf([&] { vector.Sort(); }), kOutOfMemory);
+  EXPECT_EQ(ErrorOf([&] { vector.AddValue(1); }), kOutOfMemory);
+  texts.LetSize(100'000);
+  EXPECT_EQ(ErrorOf([&] { texts.GetString(); }), kOutOfMemory);
+
+  vector.LetBlockSize(1);
+  vector.SetFromString(pieces);
+  EXPECT_EQ(vector.Size(), 20'000);
+  EXPECT_EQ(vector.Sum(), 12'500);  // those for which there is memory
 }
 
 // Three stale elements, then the text.
@@ -392,38 +435,6 @@ TEST(Vectors, ReadTextsOfTheLocale) {
     EXPECT_EQ(Read<CStrVector>(row.text, u"9"), row.texts) << row.text;
   }
 }
-
-template <class V>
-concept HasVarType = requires(V v) {
-  v.VarType();
-};
-template <class V>
-concept HasBlocks = requires(V v) {
-  v.LetBlockSize(1);
-};
-template <class V>
-concept Sorts = requires(V v) {
-  v.Sort();
-};
-template <class V>
-concept AddsUp = requires(V v) {
-  v.Sum(), v.Min(), v.Max(), v.ClosestLeftIndex(1);
-};
-template <class V>
-concept AddsUnique = requires(V v) {
-  v.AddUniqueValue(v.Value(1));
-};
-template <class V>
-concept CountsValid = requires(V v) {
-  v.NrValid();
-};
-
-static_assert(HasVarType<CDblVector> && HasVarType<CLngVector> && !HasVarType<CStrVector> && HasVarType<CBoolVector>);
-static_assert(HasBlocks<CDblVector> && HasBlocks<CLngVector> && HasBlocks<CStrVector> && !HasBlocks<CBoolVector>);
-static_assert(Sorts<CDblVector> && Sorts<CLngVector> && Sorts<CStrVector> && !Sorts<CBoolVector>);
-static_assert(AddsUp<CDblVector> && AddsUp<CLngVector> && !AddsUp<CStrVector> && !AddsUp<CBoolVector>);
-static_assert(AddsUnique<CStrVector> && !AddsUnique<CBoolVector>);
-static_assert(CountsValid<CStrVector> && !CountsValid<CBoolVector>);
 
 }  // namespace
 }  // namespace qzbase::tests

@@ -53,17 +53,6 @@ TEST(SortElements, OrdersAnythingAsTheInsertionSortDoes) {
   }
 }
 
-TEST(SortElements, OrdersLongs) {
-  std::mt19937 random(2);
-  std::vector<std::int32_t> values(300);
-  for (std::int32_t& value : values) value = static_cast<std::int32_t>(random() % 100) - 50;
-  for (const bool ascending : {true, false}) {
-    std::vector<std::int32_t> sorted = values;
-    SortElements(sorted, ascending);
-    EXPECT_EQ(sorted, InsertionSorted(values, ascending));
-  }
-}
-
 TEST(SortElements, RewritesTextsAsWholeNumbers) {
   struct Row {
     const char16_t* values;

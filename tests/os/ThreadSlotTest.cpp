@@ -1,54 +1,84 @@
-// Values of a thread's own, and the critical message that a thread's hook takes.
 #include <atomic>
-#include <string>
 #include <thread>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "qzbase/os/MessageBox.h"
 #include "qzbase/os/ThreadSlot.h"
 
 namespace qzbase::tests {
 namespace {
 
-std::atomic<int> alive = 0;
+std::atomic<int> made{0};
+std::atomic<int> destroyed{0};
 
 struct Counted {
-  Counted() { ++alive; }
-  ~Counted() { --alive; }
+  Counted() { ++made; }
+  ~Counted() { ++destroyed; }
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;
   int value = 0;
 };
 
-TEST(PerThread, GivesEachThreadItsOwnAndDestroysItOnce) {
-  {
-    os::PerThread<Counted> perThread;
-    EXPECT_EQ(alive, 0) << "made before its first use";
-    perThread->value = 7;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i)
-      threads.emplace_back([&perThread] {
-        EXPECT_EQ(perThread->value, 0);
-        perThread->value = 1;
-        EXPECT_GE(alive, 2);
-      });
-    for (std::thread& thread : threads) thread.join();
-    EXPECT_EQ(perThread->value, 7);
-    EXPECT_EQ(alive, 1);
-  }
-  EXPECT_EQ(alive, 0) << "the slot's end is the end of the last value";
+class ThreadSlot : public testing::Test {
+ protected:
+  void SetUp() override { made = destroyed = 0; }
+};
+
+TEST_F(ThreadSlot, EveryThreadHasItsOwnValueUntilItEnds) {
+  constexpr int kThreads = 8;
+  os::PerThread<Counted> slot;
+  slot->value = -1;
+  std::vector<std::thread> threads;
+  std::atomic<int> wrong{0};
+  for (int i = 0; i < kThreads; ++i)
+    threads.emplace_back([&, i] {
+      if (slot->value != 0) ++wrong;
+      for (int k = 0; k < 1000; ++k) {
+        if (slot->value != (k == 0 ? 0 : i + k)) ++wrong;
+        slot->value = i + k + 1;
+      }
+    });
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(slot->value, -1);
+  EXPECT_EQ(made, kThreads + 1);
+  EXPECT_EQ(destroyed, kThreads);
 }
 
-TEST(CriticalMessage, GoesToTheHookOfTheThread) {
-  std::u16string seen;
-  os::SetCriticalMessageHook([&](std::u16string_view pText, std::u16string_view pCaption) {
-    seen = std::u16string(pCaption) + u"|" + std::u16string(pText);
-    os::SetCriticalMessageHook({});  // a hook may take itself away
-  });
-  os::ShowCriticalMessage(u"text", u"caption");
-  EXPECT_EQ(seen, u"caption|text");
+TEST_F(ThreadSlot, TheSlotTakesTheValueOfItsThreadAlong) {
+  {
+    os::PerThread<Counted> used;
+    os::PerThread<Counted> unused;
+    used->value = 1;
+  }
+  EXPECT_EQ(made, 1);
+  EXPECT_EQ(destroyed, 1);
+}
+
+TEST_F(ThreadSlot, SlotsComeAndGo) {
+  // More than a process may have at once.
+  for (int i = 0; i < 5000; ++i) {
+    os::PerThread<Counted> slot;
+    ASSERT_EQ(slot->value, 0);
+    slot->value = i + 1;
+  }
+  EXPECT_EQ(destroyed, 5000);
+}
+
+TEST_F(ThreadSlot, ThePlainSlotHoldsWhatWasSetLast) {
+  static int destroyedValue = 0;
+  int first = 1;
+  int second = 2;
+  {
+    os::ThreadSlot slot([](void* pValue) { destroyedValue += *static_cast<int*>(pValue); });
+    EXPECT_EQ(slot.Get(), nullptr);
+    slot.Set(&first);
+    slot.Set(&second);
+    EXPECT_EQ(slot.Get(), &second);
+    std::thread([&] { EXPECT_EQ(slot.Get(), nullptr); }).join();
+  }
+  EXPECT_EQ(destroyedValue, 2);
 }
 
 }  // namespace

@@ -67,11 +67,15 @@ TEST(DateTest, Splits) {
       {0.5 / 86400, "1899-12-30 00:00:01"},
       {48180 + 4.5 / 86400, "2031-11-28 00:00:05"},  // a little less than the half in binary
   };
-  for (const auto& row : rows) EXPECT_EQ(Iso(SplitDate({row.days})), row.expected) << row.days;
+  for (const auto& row : rows) {
+    EXPECT_EQ(Iso(SplitDate({row.days})), row.expected) << row.days;
+    EXPECT_TRUE(IsInCalendar({row.days})) << row.days;
+  }
 
   const double infinity = std::numeric_limits<double>::infinity();
   const double notANumber = std::numeric_limits<double>::quiet_NaN();
   for (const double days : {-657435.0, 2958466.0, 2958465.999999, 1e300, -infinity, infinity, notANumber}) {
+    EXPECT_FALSE(IsInCalendar({days})) << days;
     try {
       ADD_FAILURE() << days << " is " << Iso(SplitDate({days}));
     } catch (const AutomationError& error) {

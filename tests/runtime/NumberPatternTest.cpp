@@ -205,6 +205,8 @@ TEST(NumberPattern, OtherKindsOfValues) {
   EXPECT_EQ(Format(Variant(0.1F), u"0.000000000000", rules), u"0.100000000000");
   EXPECT_EQ(Format(Variant(runtime::Null()), u"0;0;0;-", rules), u"-");
   EXPECT_EQ(Format(Variant(3e6), u"yyyy", rules), u"3000000");  // no day of the calendar
+  EXPECT_EQ(Format(Variant(-657434.5), u"yyyy hh", rules), u"100 12");
+  EXPECT_EQ(Format(Variant(2958465.9999999), u"yyyy", rules), u"2958465.9999999");
   EXPECT_EQ(FormatNumber(std::nan(""), u"0.00", rules), FormatNumber(std::nan(""), u"", rules));
 }
 

@@ -1,13 +1,16 @@
 #include "tests/support/AllocationMeter.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 
 namespace {
 
 thread_local std::size_t requestedBytes = 0;
+thread_local std::size_t mostBytes = SIZE_MAX;
 
 void* Allocate(std::size_t pSize) noexcept {
+  if (pSize > mostBytes) return nullptr;
   requestedBytes += pSize;
   return std::malloc(pSize > 0 ? pSize : 1);
 }
@@ -35,6 +38,14 @@ namespace qzbase::tests {
 
 std::size_t RequestedBytes() noexcept {
   return requestedBytes;
+}
+
+ScopedMemoryLimit::ScopedMemoryLimit(std::size_t pBytes) noexcept {
+  mostBytes = pBytes;
+}
+
+ScopedMemoryLimit::~ScopedMemoryLimit() {
+  mostBytes = SIZE_MAX;
 }
 
 }  // namespace qzbase::tests

@@ -156,6 +156,8 @@ TEST_F(Strings, ReplaceWholeWords) {
       {u"x-x", u"x", u"y+x", u"y+x-y+x", "inserted text would be replaced for ever"},
       {u"+b+b", u"+b", u"a+", u"a+a+", "begins in inserted text, ends behind it"},
       {u"+111 ", u"+1", u"a;+", u"a;a;a;+ ", "again and again"},
+      {u"x", u"x", u"1+x(", u"1+1+x((", "the bracket becomes a follower with the second replacement"},
+      {u"((", u"((", u";(((", u";;((;(((", "would go on for ever after that"},
       {u"abc", u"", u"x", u"abc", ""},
       {u"", u"x", u"y", u"", ""},
   };

@@ -19,7 +19,6 @@
 #include <utility>
 
 #include "qzbase/automation/VariantValue.h"
-//
 #include "qzbase/automation/com/Conversion.h"
 #include "qzbase/automation/com/Handles.h"
 #include "qzbase/automation/com/ObjectBorder.h"

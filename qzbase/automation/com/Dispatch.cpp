@@ -67,6 +67,8 @@ class CallArguments {
 
   // Changes the variables behind by-reference arguments, all or none of them.
   void StoreChanges(std::span<const ParameterDesc> pParameters) {
+    const auto isByRef = [](const ParameterDesc& pParameter) { return pParameter.type.isByRef; };
+    if (std::none_of(pParameters.begin(), pParameters.end(), isByRef)) return;
     std::array<WriteBack, kMaxParameters> changes;
     for (std::size_t i = 0; i < count_; ++i) {
       const ParameterDesc* parameter = ParameterAt(i, pParameters);

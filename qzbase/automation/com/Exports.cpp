@@ -13,12 +13,14 @@ void __freeres();
 namespace qzbase::automation::com {
 namespace {
 
-// Registration reports the failure that it met as it is.
-template <class Step>
-HRESULT Run(Step pStep, Audience pAudience) noexcept {
+HRESULT Run(void (*pStep)(Audience), Audience pAudience) noexcept {
   return Guard(nullptr, [&] {
-    pStep(pAudience);
-    return S_OK;
+    try {
+      pStep(pAudience);
+      return S_OK;
+    } catch (const RegistrationFault& fault) {
+      return fault.result;
+    }
   });
 }
 

@@ -1,5 +1,3 @@
-#include "qzbase/automation/com/Faces.h"
-
 #include <array>
 
 #include "qzbase/automation/ClassTable.h"
@@ -11,7 +9,9 @@
 #include "qzbase/automation/members/Persist.h"
 #include "qzbase/automation/members/Platform.h"
 #include "qzbase/automation/members/Text.h"
-//
+
+// The tables stand before the system's headers.
+#include "qzbase/automation/com/Faces.h"
 #include "qzbase/automation/com/RoomFaces.h"
 
 namespace qzbase::automation::com {

@@ -8,7 +8,6 @@
 
 #include "qzbase/automation/ClassEntry.h"
 #include "qzbase/automation/RecordObject.h"
-//
 #include "qzbase/automation/com/Platform.h"
 
 namespace qzbase::automation::com {

@@ -60,7 +60,7 @@ inline void ClearVariant(VARIANT& pVariant) noexcept {
     if (pVariant.pvRecord) pVariant.pRecInfo->RecordDestroy(pVariant.pvRecord);
     pVariant.pRecInfo->Release();
     pVariant.vt = VT_EMPTY;
-  } else {
+  } else if (pVariant.vt != VT_EMPTY) {
     VariantClear(&pVariant);
   }
 }

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "qzbase/automation/Identities.h"
-#include "qzbase/automation/com/ErrorBorder.h"
 #include "qzbase/automation/com/Faces.h"
 #include "qzbase/automation/com/Guid.h"
 #include "qzbase/automation/com/Module.h"
@@ -20,6 +19,10 @@ namespace {
 
 constexpr GUID kLibraryId = ParseGuid(kLibraryGuid);
 constexpr SYSKIND kSystem = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+
+void Check(HRESULT pResult) {
+  if (FAILED(pResult)) throw RegistrationFault{pResult};
+}
 
 struct RegistryValue {
   std::wstring key;
@@ -74,13 +77,13 @@ std::vector<RegistryValue> ValuesOf(const Face& pFace, const std::wstring& pPath
 void Write(HKEY pRoot, const RegistryValue& pValue) {
   const auto size = static_cast<DWORD>((pValue.text.size() + 1) * sizeof(wchar_t));
   const LSTATUS status = RegSetKeyValueW(pRoot, pValue.key.c_str(), pValue.name, REG_SZ, pValue.text.c_str(), size);
-  if (status != ERROR_SUCCESS) RaiseResult(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
+  Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
 }
 
 void RegisterLibrary(Audience pAudience, std::wstring pPath) {
   const ComRef<ITypeLib> library = TypeLibrary();
-  CheckResult(pAudience == Audience::User ? RegisterTypeLibForUser(library.Get(), pPath.data(), nullptr)
-                                          : RegisterTypeLib(library.Get(), pPath.data(), nullptr));
+  Check(pAudience == Audience::User ? RegisterTypeLibForUser(library.Get(), pPath.data(), nullptr)
+                                    : RegisterTypeLib(library.Get(), pPath.data(), nullptr));
 }
 
 void RemoveKey(HKEY pRoot, const std::wstring& pKey, LSTATUS& pStatus) {
@@ -99,7 +102,7 @@ void Register(Audience pAudience) {
   } catch (...) {
     try {
       Unregister(pAudience);
-    } catch (const runtime::AutomationError&) {  // the first error says more
+    } catch (const RegistrationFault&) {  // the first one says more
     }
     throw;
   }
@@ -116,8 +119,9 @@ void Unregister(Audience pAudience) {
   const HRESULT library = pAudience == Audience::User
                               ? UnRegisterTypeLibForUser(kLibraryId, 1, 0, LOCALE_NEUTRAL, kSystem)
                               : UnRegisterTypeLib(kLibraryId, 1, 0, LOCALE_NEUTRAL, kSystem);
-  if (status != ERROR_SUCCESS) RaiseResult(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
-  if (FAILED(library) && library != TYPE_E_REGISTRYACCESS) RaiseResult(library);
+  Check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)));
+  const bool wasRegistered = library != TYPE_E_REGISTRYACCESS && library != E_INVALIDARG;
+  if (wasRegistered) Check(library);
 }
 
 }  // namespace qzbase::automation::com

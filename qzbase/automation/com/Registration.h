@@ -14,6 +14,11 @@ namespace qzbase::automation::com {
 
 enum class Audience { Machine, User };  // needs the rights of an administrator, or none
 
+// Thrown with the system's own result, which tools for registration show.
+struct RegistrationFault {
+  HRESULT result;
+};
+
 void Register(Audience pAudience);
 void Unregister(Audience pAudience);
 

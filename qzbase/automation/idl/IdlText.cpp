@@ -10,9 +10,9 @@ namespace qzbase::automation::idl {
 namespace {
 
 // In the order of the enumerators. Classes, records and enumerations go by their own names.
-constexpr std::array<std::string_view, 14> kTypeNames = {"void",   "VARIANT_BOOL", "unsigned char", "short", "long",
-                                                         "float",  "double",       "DATE",          "BSTR",  "VARIANT",
-                                                         "IDispatch*", "",         "",              ""};
+constexpr std::array<std::string_view, 14> kTypeNames = {
+    "void", "VARIANT_BOOL", "unsigned char", "short",      "long", "float", "double",
+    "DATE", "BSTR",         "VARIANT",       "IDispatch*", "",     "",      ""};
 constexpr std::array<std::string_view, kMemberKinds> kKindAttributes = {"", ", propget", ", propput", ", propputref"};
 
 std::string Quoted(std::string_view pText) {
@@ -76,7 +76,16 @@ void AppendRecord(std::string& pText, const RecordDesc& pRecord) {
 
 // ---- Interfaces.
 
-std::string DefaultAttribute(const ParameterDesc& pParameter) {
+// The enumerator's name where there is one: C++ takes no number for the default in the generated header.
+std::string NumberText(const Face& pFace, const TypeDesc& pType, std::int32_t pNumber) {
+  for (const EnumDesc& enumeration : pFace.enumerations)
+    if (pType.base == BaseType::Enumeration && enumeration.identity->name == pType.name)
+      for (const EnumItem& item : enumeration.items)
+        if (item.value == pNumber) return std::string(item.name);
+  return std::to_string(pNumber);
+}
+
+std::string DefaultAttribute(const Face& pFace, const ParameterDesc& pParameter) {
   using Kind = DefaultValue::Kind;
   const DefaultValue& value = pParameter.defaultValue;
   const BaseType base = pParameter.type.base;
@@ -87,7 +96,7 @@ std::string DefaultAttribute(const ParameterDesc& pParameter) {
     case Kind::Boolean:
       return value.number != 0 ? ", defaultvalue(-1)" : ", defaultvalue(0)";
     case Kind::Long:
-      return ", defaultvalue(" + std::to_string(value.number) + ")";
+      return ", defaultvalue(" + NumberText(pFace, pParameter.type, value.number) + ")";
     case Kind::Text:
       return ", defaultvalue(" + Quoted(std::string(value.text.begin(), value.text.end())) + ")";
     default:
@@ -95,13 +104,13 @@ std::string DefaultAttribute(const ParameterDesc& pParameter) {
   }
 }
 
-std::string ParameterText(const ParameterDesc& pParameter) {
+std::string ParameterText(const Face& pFace, const ParameterDesc& pParameter) {
   const bool byRef = pParameter.type.isByRef;
-  return (byRef ? "[in, out" : "[in") + DefaultAttribute(pParameter) + "] " + TypeName(pParameter.type) +
+  return (byRef ? "[in, out" : "[in") + DefaultAttribute(pFace, pParameter) + "] " + TypeName(pParameter.type) +
          (byRef ? "* " : " ") + std::string(pParameter.name);
 }
 
-void AppendMember(std::string& pText, const MemberTable& pTable, const MemberDesc& pMember) {
+void AppendMember(std::string& pText, const Face& pFace, const MemberTable& pTable, const MemberDesc& pMember) {
   pText += "    [id(" + std::to_string(pMember.id) + ")";
   pText += kKindAttributes[static_cast<std::size_t>(pMember.kind)];
   if (pMember.isHidden) pText += ", hidden";
@@ -111,17 +120,17 @@ void AppendMember(std::string& pText, const MemberTable& pTable, const MemberDes
     pText += (first ? "" : ", ") + pParameter;
     first = false;
   };
-  for (const ParameterDesc& parameter : pTable.Parameters(pMember)) append(ParameterText(parameter));
+  for (const ParameterDesc& parameter : pTable.Parameters(pMember)) append(ParameterText(pFace, parameter));
   if (pMember.result.base != BaseType::Void)
     append("[out, retval] " + TypeName(pMember.result) + "* " + std::string(kResultName));
   pText += ");\n";
 }
 
-void AppendInterface(std::string& pText, const ClassDesc& pClass) {
+void AppendInterface(std::string& pText, const Face& pFace, const ClassDesc& pClass) {
   const Identity& identity = *pClass.identity;
   pText += "  " + Attributes(identity, identity.interfaceGuid, ", object, dual, oleautomation, hidden, nonextensible");
   pText += "\n  interface _" + std::string(identity.name) + " : IDispatch {\n";
-  for (const MemberDesc& member : pClass.members->rows) AppendMember(pText, *pClass.members, member);
+  for (const MemberDesc& member : pClass.members->rows) AppendMember(pText, pFace, *pClass.members, member);
   pText += "  };\n";
 }
 
@@ -143,7 +152,7 @@ std::string IdlText(const Face& pFace) {
   for (const ClassDesc& each : pFace.classes) text += "  interface _" + std::string(each.identity->name) + ";\n";
   for (const EnumDesc& each : pFace.enumerations) AppendEnumeration(text, each);
   for (const RecordDesc& each : pFace.records) AppendRecord(text, each);
-  for (const ClassDesc& each : pFace.classes) AppendInterface(text, each);
+  for (const ClassDesc& each : pFace.classes) AppendInterface(text, pFace, each);
   for (const ClassDesc& each : pFace.classes) AppendClass(text, each);
   return text + "};\n";
 }

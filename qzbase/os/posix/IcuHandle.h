@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <type_traits>
 
 #include <unicode/ucal.h>
 #include <unicode/ucol.h>

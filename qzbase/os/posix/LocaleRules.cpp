@@ -257,9 +257,11 @@ bool IsKnown(const char* pLocale) {
   return bundle && status != U_USING_DEFAULT_WARNING;
 }
 
-// The calendar of the patterns is the Gregorian one, whatever is customary.
-std::string WithGregorianCalendar(const std::string& pLocale) {
-  return pLocale.empty() ? pLocale : pLocale + "@calendar=gregorian;numbers=latn";
+// Patterns and digits are those of the Gregorian calendar and of ASCII, whatever is customary. The name may carry
+// keywords of its own.
+std::string WithCommonForms(const std::string& pLocale) {
+  if (pLocale.empty()) return {};
+  return pLocale + (pLocale.find('@') == std::string::npos ? '@' : ';') + "calendar=gregorian;numbers=latn";
 }
 
 std::u16string LanguageTag(const char* pLocale) {
@@ -293,11 +295,11 @@ std::string UserLocale(const char* pCategory) {
 LocaleRules UserLocaleRules() {
   LocaleRules rules;
   if (const std::string locale = UserLocale("LC_COLLATE"); !locale.empty()) rules.name = LanguageTag(locale.c_str());
-  if (const std::string locale = WithGregorianCalendar(UserLocale("LC_NUMERIC")); !locale.empty())
+  if (const std::string locale = WithCommonForms(UserLocale("LC_NUMERIC")); !locale.empty())
     FillNumbers(rules, locale.c_str());
-  if (const std::string locale = WithGregorianCalendar(UserLocale("LC_MONETARY")); !locale.empty())
+  if (const std::string locale = WithCommonForms(UserLocale("LC_MONETARY")); !locale.empty())
     FillMoney(rules, locale.c_str());
-  if (const std::string locale = WithGregorianCalendar(UserLocale("LC_TIME")); !locale.empty())
+  if (const std::string locale = WithCommonForms(UserLocale("LC_TIME")); !locale.empty())
     FillDates(rules, locale.c_str());
   return rules;
 }
@@ -309,7 +311,7 @@ LocaleRules NamedLocaleRules(std::string_view pName) {
   UErrorCode status = U_ZERO_ERROR;
   uloc_forLanguageTag(std::string(pName).c_str(), name, ULOC_FULLNAME_CAPACITY, &parsed, &status);
   if (U_FAILURE(status) || name[0] == '\0' || !IsKnown(name)) return rules;
-  const std::string locale = WithGregorianCalendar(name);
+  const std::string locale = WithCommonForms(name);
   rules.name = LanguageTag(name);
   FillNumbers(rules, locale.c_str());
   FillMoney(rules, locale.c_str());

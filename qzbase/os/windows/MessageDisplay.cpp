@@ -23,9 +23,11 @@ std::wstring Wide(std::u16string_view pText) {
 }  // namespace
 
 void DisplayCriticalMessage(std::u16string_view pText, std::u16string_view pCaption) {
-  if (!IsDesktopVisible() ||
-      MessageBoxW(nullptr, Wide(pText).c_str(), Wide(pCaption).c_str(), MB_ICONHAND | MB_OK | MB_TASKMODAL) == 0)
-    PrintCriticalMessage(pText, pCaption);
+  constexpr UINT style = MB_ICONHAND | MB_OK | MB_TASKMODAL;
+  // A visible station may still have no screen; the box then fails at once, with another result than its one button's.
+  const bool shown =
+      IsDesktopVisible() && MessageBoxW(nullptr, Wide(pText).c_str(), Wide(pCaption).c_str(), style) == IDOK;
+  if (!shown) PrintCriticalMessage(pText, pCaption);
 }
 
 }  // namespace qzbase::os

@@ -1,5 +1,6 @@
 #include "qzbase/automation/members/Data.h"
-//
+
+// The tables stand before the system's headers.
 #include "qzbase/automation/com/RoomFaces.h"
 
 namespace qzbase::automation::com {
