@@ -12,13 +12,10 @@ namespace qzbase::tests {
 namespace {
 
 const std::map<int, std::string_view> kTypeNames = {
-    {VT_BOOL, "Boolean"}, {VT_UI1, "Byte"},    {VT_I2, "Integer"},  {VT_I4, "Long"},     {VT_R4, "Single"},
-    {VT_R8, "Double"},    {VT_DATE, "Date"},   {VT_BSTR, "String"}, {VT_VARIANT, "Variant"},
-    {VT_DISPATCH, "Object"}};
-const std::map<int, std::string_view> kKindNames = {{INVOKE_FUNC, "method"},
-                                                    {INVOKE_PROPERTYGET, "get"},
-                                                    {INVOKE_PROPERTYPUT, "let"},
-                                                    {INVOKE_PROPERTYPUTREF, "set"}};
+    {VT_BOOL, "Boolean"}, {VT_UI1, "Byte"},  {VT_I2, "Integer"},  {VT_I4, "Long"},         {VT_R4, "Single"},
+    {VT_R8, "Double"},    {VT_DATE, "Date"}, {VT_BSTR, "String"}, {VT_VARIANT, "Variant"}, {VT_DISPATCH, "Object"}};
+const std::map<int, std::string_view> kKindNames = {
+    {INVOKE_FUNC, "method"}, {INVOKE_PROPERTYGET, "get"}, {INVOKE_PROPERTYPUT, "let"}, {INVOKE_PROPERTYPUTREF, "set"}};
 
 // All names are plain ASCII.
 std::string Narrow(std::u16string_view pText) {
