@@ -43,17 +43,6 @@ std::int16_t PutRow(const RowsOfId& pRows, CallKind pKind, ArgumentList pArgumen
   return row < 0 && isObject ? RowOf(pRows, other) : row;
 }
 
-std::size_t SelectRow(const MemberTable& pTable, MemberId pId, CallKind pKind, ArgumentList pArguments) {
-  if (pId < 0 || static_cast<std::size_t>(pId) >= pTable.rowsOfId.size()) Raise(RuntimeError::MemberNotFound);
-  const RowsOfId& rows = pTable.rowsOfId[static_cast<std::size_t>(pId)];
-  std::int16_t row = -1;
-  if (Includes(pKind, CallKind::Method)) row = RowOf(rows, MemberKind::Method);
-  if (row < 0 && Includes(pKind, CallKind::Get)) row = RowOf(rows, MemberKind::Get);
-  if (row < 0) row = PutRow(rows, pKind, pArguments);
-  if (row < 0) Raise(RuntimeError::MemberNotFound);
-  return static_cast<std::size_t>(row);
-}
-
 bool IsComplete(ArgumentList pArguments) {
   for (const Variant* argument : pArguments)
     if (!argument) return false;
@@ -145,19 +134,34 @@ Variant DefaultOf(const ParameterDesc& pParameter) {
   }
 }
 
-Variant InvokeById(const ClassEntry& pEntry, Object& pObject, MemberId pId, CallKind pKind, ArgumentList pArguments,
-                   std::span<const NamedArgument> pNamed) {
+std::size_t SelectRow(const MemberTable& pTable, MemberId pId, CallKind pKind, ArgumentList pArguments) {
+  if (pId < 0 || static_cast<std::size_t>(pId) >= pTable.rowsOfId.size()) Raise(RuntimeError::MemberNotFound);
+  const RowsOfId& rows = pTable.rowsOfId[static_cast<std::size_t>(pId)];
+  std::int16_t row = -1;
+  if (Includes(pKind, CallKind::Method)) row = RowOf(rows, MemberKind::Method);
+  if (row < 0 && Includes(pKind, CallKind::Get)) row = RowOf(rows, MemberKind::Get);
+  if (row < 0) row = PutRow(rows, pKind, pArguments);
+  if (row < 0) Raise(RuntimeError::MemberNotFound);
+  return static_cast<std::size_t>(row);
+}
+
+Variant InvokeRow(const ClassEntry& pEntry, Object& pObject, std::size_t pRow, ArgumentList pArguments,
+                  std::span<const NamedArgument> pNamed) {
   const MemberTable& table = *pEntry.members;
-  const std::size_t slot = SelectRow(table, pId, pKind, pArguments);
-  const MemberDesc& row = table.rows[slot];
+  const MemberDesc& row = table.rows[pRow];
   Variant result;
   if (pNamed.empty() && pArguments.size() == row.parameterCount && IsComplete(pArguments)) {
-    pEntry.thunks[slot](pObject, pArguments.data(), result);
+    pEntry.thunks[pRow](pObject, pArguments.data(), result);
   } else {
     const OrderedArguments ordered(table, row, pArguments, pNamed);
-    pEntry.thunks[slot](pObject, ordered.Data(), result);
+    pEntry.thunks[pRow](pObject, ordered.Data(), result);
   }
   return result;
+}
+
+Variant InvokeById(const ClassEntry& pEntry, Object& pObject, MemberId pId, CallKind pKind, ArgumentList pArguments,
+                   std::span<const NamedArgument> pNamed) {
+  return InvokeRow(pEntry, pObject, SelectRow(*pEntry.members, pId, pKind, pArguments), pArguments, pNamed);
 }
 
 Variant InvokeByName(const ClassEntry& pEntry, Object& pObject, std::u16string_view pName, CallKind pKind,

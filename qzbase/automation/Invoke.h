@@ -18,6 +18,7 @@
 // Whatever the member raises, arrives as it is.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -38,6 +39,13 @@ runtime::Variant InvokeById(const ClassEntry& pEntry, runtime::Object& pObject, 
 runtime::Variant InvokeByName(const ClassEntry& pEntry, runtime::Object& pObject, std::u16string_view pName,
                               runtime::CallKind pKind, std::span<runtime::Variant* const> pArguments,
                               std::span<const NamedArgument> pNamed = {});
+
+// The two steps of a call, for callers that need the row's parameters in between: the row that a call reaches, and the
+// call of it.
+std::size_t SelectRow(const MemberTable& pTable, MemberId pId, runtime::CallKind pKind,
+                      std::span<runtime::Variant* const> pArguments);
+runtime::Variant InvokeRow(const ClassEntry& pEntry, runtime::Object& pObject, std::size_t pRow,
+                           std::span<runtime::Variant* const> pArguments, std::span<const NamedArgument> pNamed = {});
 
 // The default as the argument that it stands for; the parameter is optional.
 runtime::Variant DefaultOf(const ParameterDesc& pParameter);

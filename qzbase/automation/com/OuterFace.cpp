@@ -1,0 +1,99 @@
+#include "qzbase/automation/com/OuterFace.h"
+
+#include <utility>
+
+#include "qzbase/automation/com/DispatchSlots.h"
+#include "qzbase/automation/com/ErrorBorder.h"
+#include "qzbase/automation/com/HostObject.h"
+#include "qzbase/automation/com/ObjectBorder.h"
+
+namespace qzbase::automation::com {
+
+using runtime::Raise;
+using runtime::Ref;
+using runtime::RuntimeError;
+
+OuterFace::OuterFace(const Face& pFace, Ref<runtime::Object> pObject) : face_(pFace), object_(std::move(pObject)) {
+  slots = pFace.slots;
+  object_->outerFace = this;
+}
+
+OuterFace::~OuterFace() {
+  object_->outerFace = nullptr;
+}
+
+OuterFace* OuterFace::Of(const Face& pFace, const Ref<runtime::Object>& pObject) {
+  if (auto* known = static_cast<OuterFace*>(pObject->outerFace)) {
+    known->AddRef();
+    return known;
+  }
+  return new OuterFace(pFace, pObject);
+}
+
+OuterFace* OuterFace::Behind(IUnknown* pInterface) noexcept {
+  auto* dual = reinterpret_cast<DualInterface*>(pInterface);
+  const auto* first = static_cast<const DispatchSlots*>(dual->slots);
+  return first->queryInterface == kDispatchSlots.queryInterface ? static_cast<OuterFace*>(dual) : nullptr;
+}
+
+HRESULT OuterFace::QueryInterface(REFIID pId, void** pResult) {
+  if (!pResult) return E_POINTER;
+  *pResult = nullptr;
+  if (pId == IID_IUnknown || pId == IID_IDispatch || pId == face_.interfaceId)
+    *pResult = static_cast<DualInterface*>(this);
+  else if (pId == IID_ISupportErrorInfo)
+    *pResult = static_cast<ISupportErrorInfo*>(this);
+  else if (pId == IID_IProvideClassInfo)
+    *pResult = static_cast<IProvideClassInfo*>(this);
+  else
+    return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+ULONG OuterFace::AddRef() {
+  return ++references_;
+}
+
+ULONG OuterFace::Release() {
+  const ULONG left = --references_;
+  if (left == 0) delete this;
+  return left;
+}
+
+HRESULT OuterFace::InterfaceSupportsErrorInfo(REFIID pId) {
+  return pId == face_.interfaceId ? S_OK : S_FALSE;
+}
+
+HRESULT OuterFace::GetClassInfo(ITypeInfo** pResult) {
+  if (!pResult) return E_POINTER;
+  *pResult = nullptr;
+  return Guard(&face_, [&] {
+    *pResult = TypeInfoOf(face_.classId).Release();
+    return S_OK;
+  });
+}
+
+Ref<runtime::Object> FromDispatch(IUnknown* pInterface) {
+  if (!pInterface) return nullptr;
+  if (const OuterFace* own = OuterFace::Behind(pInterface)) return own->Object();
+  ComRef<IDispatch> dispatch = ComRef<IUnknown>::Share(pInterface).As<IDispatch>(IID_IDispatch);
+  if (!dispatch) Raise(RuntimeError::TypeMismatch);
+  if (const OuterFace* own = OuterFace::Behind(dispatch.Get())) return own->Object();
+  return runtime::New<HostObject>(std::move(dispatch));
+}
+
+IDispatch* ToDispatch(const Ref<runtime::Object>& pObject) {
+  if (!pObject) return nullptr;
+  if (auto* known = static_cast<OuterFace*>(pObject->outerFace)) {
+    known->AddRef();
+    return known->AsDispatch();
+  }
+  if (const auto* host = dynamic_cast<const HostObject*>(pObject.get()))
+    return ComRef<IDispatch>::Share(host->Dispatch()).Release();
+  const Face* face = FindFace(*pObject);
+  if (!face) Raise(RuntimeError::TypeMismatch);
+  return OuterFace::Of(*face, pObject)->AsDispatch();
+}
+
+}  // namespace qzbase::automation::com
