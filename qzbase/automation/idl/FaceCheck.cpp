@@ -42,8 +42,7 @@ class Checker {
   // A name wherever it stands.
   void See(std::string_view pName, const std::string& pWhere) {
     const auto& [spelling, where] = spellings_.try_emplace(Folded(pName), pName, pWhere).first->second;
-    if (spelling != pName)
-      Fault(pWhere, "\"" + std::string(pName) + "\" is spelt \"" + spelling + "\" at " + where);
+    if (spelling != pName) Fault(pWhere, "\"" + std::string(pName) + "\" is spelt \"" + spelling + "\" at " + where);
   }
 
   // A name that clients use without saying whose it is.

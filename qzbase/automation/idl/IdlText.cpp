@@ -76,16 +76,7 @@ void AppendRecord(std::string& pText, const RecordDesc& pRecord) {
 
 // ---- Interfaces.
 
-// The enumerator's name where there is one: C++ takes no number for the default in the generated header.
-std::string NumberText(const Face& pFace, const TypeDesc& pType, std::int32_t pNumber) {
-  for (const EnumDesc& enumeration : pFace.enumerations)
-    if (pType.base == BaseType::Enumeration && enumeration.identity->name == pType.name)
-      for (const EnumItem& item : enumeration.items)
-        if (item.value == pNumber) return std::string(item.name);
-  return std::to_string(pNumber);
-}
-
-std::string DefaultAttribute(const Face& pFace, const ParameterDesc& pParameter) {
+std::string DefaultAttribute(const ParameterDesc& pParameter) {
   using Kind = DefaultValue::Kind;
   const DefaultValue& value = pParameter.defaultValue;
   const BaseType base = pParameter.type.base;
@@ -96,7 +87,7 @@ std::string DefaultAttribute(const Face& pFace, const ParameterDesc& pParameter)
     case Kind::Boolean:
       return value.number != 0 ? ", defaultvalue(-1)" : ", defaultvalue(0)";
     case Kind::Long:
-      return ", defaultvalue(" + NumberText(pFace, pParameter.type, value.number) + ")";
+      return ", defaultvalue(" + std::to_string(value.number) + ")";
     case Kind::Text:
       return ", defaultvalue(" + Quoted(std::string(value.text.begin(), value.text.end())) + ")";
     default:
@@ -104,13 +95,14 @@ std::string DefaultAttribute(const Face& pFace, const ParameterDesc& pParameter)
   }
 }
 
-std::string ParameterText(const Face& pFace, const ParameterDesc& pParameter) {
+std::string ParameterText(const ParameterDesc& pParameter, IdlUse pUse) {
   const bool byRef = pParameter.type.isByRef;
-  return (byRef ? "[in, out" : "[in") + DefaultAttribute(pFace, pParameter) + "] " + TypeName(pParameter.type) +
-         (byRef ? "* " : " ") + std::string(pParameter.name);
+  const std::string attributes =
+      std::string(byRef ? "[in, out" : "[in") + (pUse == IdlUse::TypeLibrary ? DefaultAttribute(pParameter) : "");
+  return attributes + "] " + TypeName(pParameter.type) + (byRef ? "* " : " ") + std::string(pParameter.name);
 }
 
-void AppendMember(std::string& pText, const Face& pFace, const MemberTable& pTable, const MemberDesc& pMember) {
+void AppendMember(std::string& pText, const MemberTable& pTable, const MemberDesc& pMember, IdlUse pUse) {
   pText += "    [id(" + std::to_string(pMember.id) + ")";
   pText += kKindAttributes[static_cast<std::size_t>(pMember.kind)];
   if (pMember.isHidden) pText += ", hidden";
@@ -120,17 +112,17 @@ void AppendMember(std::string& pText, const Face& pFace, const MemberTable& pTab
     pText += (first ? "" : ", ") + pParameter;
     first = false;
   };
-  for (const ParameterDesc& parameter : pTable.Parameters(pMember)) append(ParameterText(pFace, parameter));
+  for (const ParameterDesc& parameter : pTable.Parameters(pMember)) append(ParameterText(parameter, pUse));
   if (pMember.result.base != BaseType::Void)
     append("[out, retval] " + TypeName(pMember.result) + "* " + std::string(kResultName));
   pText += ");\n";
 }
 
-void AppendInterface(std::string& pText, const Face& pFace, const ClassDesc& pClass) {
+void AppendInterface(std::string& pText, const ClassDesc& pClass, IdlUse pUse) {
   const Identity& identity = *pClass.identity;
   pText += "  " + Attributes(identity, identity.interfaceGuid, ", object, dual, oleautomation, hidden, nonextensible");
   pText += "\n  interface _" + std::string(identity.name) + " : IDispatch {\n";
-  for (const MemberDesc& member : pClass.members->rows) AppendMember(pText, pFace, *pClass.members, member);
+  for (const MemberDesc& member : pClass.members->rows) AppendMember(pText, *pClass.members, member, pUse);
   pText += "  };\n";
 }
 
@@ -144,15 +136,15 @@ void AppendClass(std::string& pText, const ClassDesc& pClass) {
 
 }  // namespace
 
-std::string IdlText(const Face& pFace) {
+std::string IdlText(const Face& pFace, IdlUse pUse) {
   std::string text = "// Made from the member tables by qzbase_idl: do not edit.\nimport \"oaidl.idl\";\n\n";
   text += "[uuid(" + std::string(kLibraryGuid) + "), version(" + std::string(kLibraryVersion) + "), helpstring(" +
           Quoted(kLibraryHelp) + ")]\nlibrary " + std::string(kLibraryName) + " {\n";
   text += "  importlib(\"stdole2.tlb\");\n";
-  for (const ClassDesc& each : pFace.classes) text += "  interface _" + std::string(each.identity->name) + ";\n";
   for (const EnumDesc& each : pFace.enumerations) AppendEnumeration(text, each);
   for (const RecordDesc& each : pFace.records) AppendRecord(text, each);
-  for (const ClassDesc& each : pFace.classes) AppendInterface(text, pFace, each);
+  for (const ClassDesc& each : pFace.classes) text += "  interface _" + std::string(each.identity->name) + ";\n";
+  for (const ClassDesc& each : pFace.classes) AppendInterface(text, each, pUse);
   for (const ClassDesc& each : pFace.classes) AppendClass(text, each);
   return text + "};\n";
 }

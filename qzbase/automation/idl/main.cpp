@@ -1,7 +1,8 @@
 // Writes what the Windows server is made of besides code: from the member tables, on the machine that builds.
 //
 //   qzbase_idl check                        nothing: only looks for faults
-//   qzbase_idl idl FILE                     the interface definition
+//   qzbase_idl idl FILE                     the interface definition of the type library
+//   qzbase_idl header-idl FILE              the interface definition of the C++ header
 //   qzbase_idl manifest amd64|x86 FILE      the manifest for use without registration
 //
 // Faults in the tables go to the error output, one a line; then nothing is written and the exit code is 1.
@@ -39,9 +40,12 @@ int main(int pCount, char** pValues) {
   const std::string_view verb = pCount > 1 ? arguments[1] : "";
   const Face& face = LibraryFace();
   if (verb == "check" && pCount == 2) return HasFaults(face) ? 1 : 0;
-  if (verb == "idl" && pCount == 3) return HasFaults(face) ? 1 : Write(IdlText(face), arguments[2]);
+  if (verb == "idl" && pCount == 3)
+    return HasFaults(face) ? 1 : Write(IdlText(face, IdlUse::TypeLibrary), arguments[2]);
+  if (verb == "header-idl" && pCount == 3)
+    return HasFaults(face) ? 1 : Write(IdlText(face, IdlUse::Header), arguments[2]);
   if (verb == "manifest" && pCount == 4)
     return HasFaults(face) ? 1 : Write(ManifestText(face, arguments[2]), arguments[3]);
-  std::fputs("usage: qzbase_idl check | idl FILE | manifest amd64|x86 FILE\n", stderr);
+  std::fputs("usage: qzbase_idl check | idl FILE | header-idl FILE | manifest amd64|x86 FILE\n", stderr);
   return 2;
 }
