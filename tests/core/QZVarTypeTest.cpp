@@ -10,12 +10,11 @@ using runtime::Date;
 using runtime::Variant;
 
 TEST(QZVarType, HasANameAndAnInvalidValue) {
-  struct Row {
+  const struct {
     QZVarType type;
     std::u16string_view name;
     Variant invalid;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {EVTDouble, u"Number", -9.9999999999e+300},
       {EVTLong, u"Integer", -2147483636},
       {EVTDate, u"Date", Date{0}},
@@ -23,7 +22,7 @@ TEST(QZVarType, HasANameAndAnInvalidValue) {
       {EVTEnum, u"Enum", std::int16_t{-1}},
       {static_cast<QZVarType>(9), u"", std::int16_t{0}},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     const Variant value = InvalidValueOf(row.type);
     EXPECT_EQ(NameOf(row.type), row.name);
     EXPECT_EQ(value.Kind(), row.invalid.Kind()) << row.type;
