@@ -1,6 +1,6 @@
 ' Tokens, lines, words, units and name indices; texts and arrays that the library changes.
 Option Explicit
-Dim strings, text, position, items, fixed(1), count, checks
+Dim strings, text, position, items, list, count, checks
 Set strings = CreateObject("QZBase.GCStrings")
 
 Sub Check(name, value)
@@ -26,7 +26,9 @@ Check "line", strings.GetNextLine(text, position) & " " & position
 
 ReDim items(0)
 count = strings.ParseString("a;b;c", ";", items)
-Check "items", count & " " & IsArray(items)
+Set list = CreateObject("QZBase.CStrVector")
+list.SetFromArray items
+Check "items", count & " " & list.GetString
 
 On Error Resume Next
 position = 0
