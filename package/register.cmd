@@ -5,7 +5,8 @@ setlocal
 set status=0
 set scope=
 set key=HKLM\Software\Classes\QZBase.RightsCheck
-reg add %key% /f >nul 2>&1 && (reg delete %key% /f >nul 2>&1) || set scope=/n /i:user
+reg add %key% /f >nul 2>&1
+if errorlevel 1 (set scope=/n /i:user) else (reg delete %key% /f >nul 2>&1)
 if "%scope%"=="" (echo Registering QZBase for this machine.) else (echo Registering QZBase for this user.)
 
 if exist "%~dp0x64\QZBase.dll" call :register "%SystemRoot%\System32\regsvr32.exe" "%~dp0x64\QZBase.dll"
