@@ -45,8 +45,8 @@ class Object : public std::enable_shared_from_this<Object> {
   // host's own or a test's, override it.
   virtual Variant Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments);
 
-  // By what a host holds this object, while it does: for the automation server alone, which gives out the same object by
-  // the same address.
+  // By what a host holds this object, while it does: for the automation server alone, which gives out the same object
+  // by the same address.
   void* outerFace = nullptr;
 
   template <class... Arguments>

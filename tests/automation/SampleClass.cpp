@@ -53,8 +53,13 @@ void Sample::ChangePoint(SamplePoint& pPoint, bool pFail) {
   FailIf(pFail);
 }
 
-void Sample::ChangePoints(Array<SamplePoint>& pPoints) {
-  for (SamplePoint& each : pPoints.Elements()) ChangePoint(each, false);
+void Sample::ChangeObject(Ref<Sample>& pObject, bool pFail) {
+  pObject = New<Sample>();
+  FailIf(pFail);
+}
+
+void Sample::ChangePoints(Array<SamplePoint>& pPoints, bool pFail) {
+  for (SamplePoint& each : pPoints.Elements()) ChangePoint(each, pFail);
 }
 
 double Sample::Total(const Array<double>& pValues) const {
@@ -70,12 +75,6 @@ SamplePoint Sample::Middle(SamplePoint pFirst, const SamplePoint& pSecond) const
   pFirst.X = (pFirst.X + pSecond.X) / 2;
   pFirst.Label += pSecond.Label;
   return pFirst;
-}
-
-Array<SamplePoint> Sample::Points(std::int32_t pCount) const {
-  Array<SamplePoint> points(1, pCount);
-  for (std::int32_t i = 1; i <= pCount; ++i) points[i] = {i * 1.0, u"point", {}};
-  return points;
 }
 
 }  // namespace qzbase::tests

@@ -22,23 +22,11 @@ struct SamplePoint {
   std::array<std::uint8_t, 3> Bytes{};
 };
 
-class Sample;
-class Stranger;
-
-// Half of the members, to be inherited.
-template <class Self>
-class SampleBase : public runtime::Object {
+class Sample : public runtime::Object {
  public:
   double Item(std::int32_t pIndex, std::int32_t pOffset) const { return items_[pIndex] + pOffset; }
   void LetItem(std::int32_t pIndex, std::int32_t pOffset, double pValue) { items_[pIndex] = pValue + pOffset; }
   std::int32_t Count() const noexcept { return items_.Size(); }
-
- protected:
-  runtime::Array<double> items_{1, 4};
-};
-
-class Sample : public SampleBase<Sample> {
- public:
   const std::u16string& Title() const noexcept { return title_; }
   void LetTitle(std::u16string_view pTitle) { title_ = pTitle; }
 
@@ -60,28 +48,21 @@ class Sample : public SampleBase<Sample> {
               bool pFail);
   void ChangeArray(runtime::Array<std::int32_t>& pArray, bool pFail);
   void ChangePoint(SamplePoint& pPoint, bool pFail);
-  void ChangeObject(runtime::Ref<Sample>& pObject) { pObject = runtime::New<Sample>(); }
-  void ChangePoints(runtime::Array<SamplePoint>& pPoints);
+  void ChangeObject(runtime::Ref<Sample>& pObject, bool pFail);
+  void ChangePoints(runtime::Array<SamplePoint>& pPoints, bool pFail);
 
   // By reference to the caller, though not changed.
   double Total(const runtime::Array<double>& pValues) const;
   std::u16string Join(runtime::Array<std::u16string> pTexts) const;
   SamplePoint Middle(SamplePoint pFirst, const SamplePoint& pSecond) const;
-  runtime::Array<SamplePoint> Points(std::int32_t pCount) const;
-
-  std::u16string NameOf(const Sample& pOther) const { return pOther.title_; }
-  bool IsUnset(const Stranger* pOther) const { return pOther == nullptr; }
-  bool IsSample(const runtime::Object& pAny) const { return dynamic_cast<const Sample*>(&pAny) != nullptr; }
   runtime::Ref<runtime::Object> Same(runtime::Ref<runtime::Object> pAny) const { return pAny; }
   static SampleShade Darker(SampleShade pShade) { return static_cast<SampleShade>(pShade + 1); }
-  std::uint8_t Low(std::uint8_t pByte) const { return pByte; }
 
  private:
+  runtime::Array<double> items_{1, 4};
   std::u16string title_;
   runtime::Ref<Sample> both_;
 };
-
-class Stranger : public runtime::Object {};
 
 }  // namespace qzbase::tests
 
@@ -93,8 +74,6 @@ using tests::SampleShade;
 
 template <>
 inline constexpr Identity identity<Sample> = ObjectClass("Sample", "", "", "A sample.");
-template <>
-inline constexpr Identity identity<tests::Stranger> = ObjectClass("Stranger", "", "", "Another class.");
 template <>
 inline constexpr Identity identity<SamplePoint> = RecordNamed("SamplePoint", "", "A record.");
 template <>
@@ -123,17 +102,12 @@ inline constexpr auto members<Sample> = table(
                             "Changes them."),
     method<&Sample::ChangeArray>("ChangeArray", {"pArray", opt("pFail", false)}, "Doubles every element."),
     method<&Sample::ChangePoint>("ChangePoint", {"pPoint", opt("pFail", false)}, "Moves a point."),
-    method<&Sample::ChangeObject>("ChangeObject", {"pObject"}, "Replaces an object."),
-    method<&Sample::ChangePoints>("ChangePoints", {"pPoints"}, "Moves all points."),
+    method<&Sample::ChangeObject>("ChangeObject", {"pObject", opt("pFail", false)}, "Replaces an object."),
+    method<&Sample::ChangePoints>("ChangePoints", {"pPoints", opt("pFail", false)}, "Moves all points."),
     method<&Sample::Total>("Total", {byRef("pValues")}, "The sum of an array."),
     method<&Sample::Join>("Join", {"pTexts"}, "Texts in a row."),
     method<&Sample::Middle>("Middle", {byRef("pFirst"), byRef("pSecond")}, "A point between two."),
-    method<&Sample::Points>("Points", {"pCount"}, "Some points."),
-    method<&Sample::NameOf>("NameOf", {"pOther"}, "The title of another one."),
-    method<&Sample::IsUnset>("IsUnset", {"pOther"}, "Whether no object is given."),
-    method<&Sample::IsSample>("IsSample", {"pAny"}, "Whether an object is of this class."),
     method<&Sample::Same>("Same", {"pAny"}, "The object itself."),
-    method<&Sample::Darker>("Darker", {"pShade"}, "The next shade."),
-    method<&Sample::Low>("Low", {"pByte"}, "A byte.").hidden());
+    method<&Sample::Darker>("Darker", {"pShade"}, "The next shade."));
 
 }  // namespace qzbase::automation

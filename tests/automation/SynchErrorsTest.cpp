@@ -1,15 +1,18 @@
 // Two error registries aligned by name. The client's lives on another thread, as in another process or apartment: a
 // stand-in on this thread passes every call on to it.
 #include <condition_variable>
-#include <exception>
 #include <functional>
+#include <future>
 #include <mutex>
+#include <stop_token>
 #include <thread>
+#include <utility>
 
 #include <gtest/gtest.h>
 
 #include "qzbase/automation/ClassTable.h"
 #include "qzbase/runtime/Convert.h"
+#include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
@@ -19,51 +22,28 @@ using namespace runtime;
 // A thread with the library's state of its own, which runs one task at a time while its caller waits.
 class Worker {
  public:
-  Worker() : thread_([this] { Loop(); }) {}
-  ~Worker() {
-    Hand({});
-    thread_.join();
-  }
-
   // What the task throws, arrives here.
   void Run(const std::function<void()>& pTask) {
-    std::exception_ptr error;
-    Hand([&] {
-      try {
-        pTask();
-      } catch (...) {
-        error = std::current_exception();
-      }
-    });
-    if (error) std::rethrow_exception(error);
+    std::packaged_task<void()> task(pTask);
+    std::future<void> done = task.get_future();
+    {
+      const std::lock_guard lock(mutex_);
+      task_ = std::move(task);
+    }
+    changed_.notify_one();
+    done.get();
   }
 
  private:
-  // Returns when the task is done; an empty one ends the thread.
-  void Hand(std::function<void()> pTask) {
+  void Loop(const std::stop_token& pStop) {
     std::unique_lock lock(mutex_);
-    task_ = std::move(pTask);
-    pending_ = true;
-    changed_.notify_all();
-    changed_.wait(lock, [this] { return !pending_; });
-  }
-
-  void Loop() {
-    for (bool goesOn = true; goesOn;) {
-      std::unique_lock lock(mutex_);
-      changed_.wait(lock, [this] { return pending_; });
-      goesOn = static_cast<bool>(task_);
-      if (goesOn) task_();
-      pending_ = false;
-      changed_.notify_all();
-    }
+    while (changed_.wait(lock, pStop, [this] { return task_.valid(); })) std::exchange(task_, {})();
   }
 
   std::mutex mutex_;
-  std::condition_variable changed_;
-  std::function<void()> task_;
-  bool pending_ = false;
-  std::thread thread_;
+  std::condition_variable_any changed_;
+  std::packaged_task<void()> task_;
+  std::jthread thread_{[this](const std::stop_token& pStop) { Loop(pStop); }};
 };
 
 class StandIn : public Object {
@@ -120,15 +100,9 @@ TEST(SynchErrors, FailsWithTheClientsError) {
   Worker worker;
   const Ref<Object> server = automation::CreateObject(u"QZBase.GCError");
   const Ref<Object> noErrors = New<StandIn>(worker, automation::CreateObject(u"QZBase.CBuffer"));
-  const std::pair<Variant, std::int32_t> rows[] = {{Variant(noErrors), 438}, {Variant(nullptr), 91}, {Variant(1), 13}};
-  for (const auto& [client, expected] : rows) {
-    try {
-      server->Call(u"SynchErrors", client);
-      ADD_FAILURE() << "no error " << expected;
-    } catch (const AutomationError& error) {
-      EXPECT_EQ(error.Number(), expected);
-    }
-  }
+  EXPECT_EQ(ErrorOf([&] { server->Call(u"SynchErrors", Variant(noErrors)); }), 438);
+  EXPECT_EQ(ErrorOf([&] { server->Call(u"SynchErrors", Variant(nullptr)); }), 91);
+  EXPECT_EQ(ErrorOf([&] { server->Call(u"SynchErrors", 1); }), 13);
 }
 
 }  // namespace

@@ -12,59 +12,9 @@ namespace {
 using os::LocaleRules;
 using os::NamedLocaleRules;
 
-template <std::size_t pCount>
-std::string Joined(const std::array<std::u16string, pCount>& pNames) {
-  std::string text;
-  for (const std::u16string& name : pNames) text += ToUtf8(name) + "|";
-  return text;
-}
-
-// The system's locales equal the table in every field, on all systems; no field may differ.
+// The system's locales equal the table in every field, on all systems.
 TEST(LocaleRules, AgreeWithTheTable) {
-  for (const std::string_view name : kLocaleNames) {
-    SCOPED_TRACE(name);
-    const LocaleRules expected = TestLocale(name);
-    const LocaleRules actual = NamedLocaleRules(name);
-#define QZBASE_SAME_TEXT(pField) EXPECT_EQ(ToUtf8(actual.pField), ToUtf8(expected.pField)) << #pField
-#define QZBASE_SAME(pField) EXPECT_EQ(actual.pField, expected.pField) << #pField
-    QZBASE_SAME_TEXT(name);
-    QZBASE_SAME_TEXT(decimal);
-    QZBASE_SAME_TEXT(thousands);
-    QZBASE_SAME(firstGroup);
-    QZBASE_SAME(furtherGroups);
-    QZBASE_SAME(decimals);
-    QZBASE_SAME(leadingZero);
-    QZBASE_SAME(negativeNumber);
-    QZBASE_SAME_TEXT(positiveSign);
-    QZBASE_SAME_TEXT(negativeSign);
-    QZBASE_SAME_TEXT(listSeparator);
-    QZBASE_SAME_TEXT(currency);
-    QZBASE_SAME_TEXT(monetaryDecimal);
-    QZBASE_SAME_TEXT(monetaryThousands);
-    QZBASE_SAME(monetaryFirstGroup);
-    QZBASE_SAME(monetaryFurtherGroups);
-    QZBASE_SAME(monetaryDecimals);
-    QZBASE_SAME(positiveCurrency);
-    QZBASE_SAME(negativeCurrency);
-    QZBASE_SAME_TEXT(dateSeparator);
-    QZBASE_SAME_TEXT(timeSeparator);
-    QZBASE_SAME_TEXT(shortDate);
-    QZBASE_SAME_TEXT(longDate);
-    QZBASE_SAME_TEXT(longTime);
-    QZBASE_SAME_TEXT(shortTime);
-    QZBASE_SAME(dateOrder);
-    QZBASE_SAME_TEXT(am);
-    QZBASE_SAME_TEXT(pm);
-    QZBASE_SAME(firstDayOfWeek);
-    QZBASE_SAME(firstWeekOfYear);
-#undef QZBASE_SAME
-#undef QZBASE_SAME_TEXT
-    EXPECT_EQ(Joined(actual.days), Joined(expected.days));
-    EXPECT_EQ(Joined(actual.shortDays), Joined(expected.shortDays));
-    EXPECT_EQ(Joined(actual.months), Joined(expected.months));
-    EXPECT_EQ(Joined(actual.shortMonths), Joined(expected.shortMonths));
-    EXPECT_EQ(actual, expected) << "a field that the list above lacks";
-  }
+  for (const std::string_view name : kLocaleNames) EXPECT_EQ(NamedLocaleRules(name), TestLocale(name)) << name;
 }
 
 TEST(LocaleRules, UnknownLocalesAreInvariant) {

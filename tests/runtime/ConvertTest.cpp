@@ -13,30 +13,15 @@ namespace {
 using namespace runtime;
 
 // A byte is no kind of its own; the table's bytes are compared as numbers.
-Variant Converted(const Variant& pValue, const std::string& pTarget, const LocaleRules& pRules) {
+std::string Answer(const Variant& pValue, const std::string& pTarget, const LocaleRules& pRules) {
   static const std::map<std::string, VariantKind> kinds = {{"I2", VariantKind::Integer},  {"I4", VariantKind::Long},
                                                            {"R4", VariantKind::Single},   {"R8", VariantKind::Double},
                                                            {"DATE", VariantKind::Date},   {"BSTR", VariantKind::String},
                                                            {"BOOL", VariantKind::Boolean}};
-  if (pTarget == "UI1") return Variant(std::int32_t{ToByte(pValue, pRules)});
-  return ConvertTo(pValue, kinds.at(pTarget), pRules);
-}
-
-std::string Answer(const Variant& pValue, const std::string& pTarget, const LocaleRules& pRules) {
-  try {
-    const std::string text = CorpusValueText(Converted(pValue, pTarget, pRules));
-    return pTarget == "UI1" ? "UI1" + text.substr(2) : text;
-  } catch (const AutomationError& error) {
-    return "error " + std::to_string(error.Number());
-  }
-}
-
-std::string Expected(const CorpusRow& pRow) {
-  if (!pRow["documented"].empty()) return pRow["documented"];
-  if (pRow["hr"] == "00000000") return pRow["result"];
-  if (pRow["source"] == "NULL")
-    return "error 94";  // the runtime's own number for what the platform calls a type mismatch
-  return pRow["hr"] == "80020005" ? "error 13" : "error 6";
+  return TextOrError([&] {
+    if (pTarget == "UI1") return "UI1:" + std::to_string(ToByte(pValue, pRules));
+    return CorpusValueText(ConvertTo(pValue, kinds.at(pTarget), pRules));
+  });
 }
 
 // Texts of booleans are always the words here, and always the English ones: rows made with other settings of the
@@ -53,35 +38,24 @@ bool IsInexact(const CorpusRow& pRow) {
 }
 
 TEST(Convert, AnswersAsTheAutomationRuntime) {
-  Disagreements disagreements("conversions");
-  for (const CorpusRow& row : Corpus("variant_convert.tsv")) {
-    const auto source = ParseCorpusValue(row["source"]);
-    if (!row.IsSettled() || !source || AsksSomethingElse(row) || IsInexact(row)) continue;
-    const std::string actual = Answer(*source, row["target"], TestLocale(row["locale"]));
-    disagreements.Checked();
-    if (actual != Expected(row)) disagreements.Add(row, row["source"] + " to " + row["target"], Expected(row), actual);
-  }
+  CheckTable("variant_convert.tsv", [](const CorpusRow& pRow) -> std::optional<Comparison> {
+    const auto source = ParseCorpusValue(pRow["source"]);
+    if (!source || AsksSomethingElse(pRow) || IsInexact(pRow)) return {};
+    // The runtime has a number of its own for what the platform calls a type mismatch.
+    const bool isNull = pRow["source"] == "NULL" && pRow["documented"].empty() && pRow["hr"] != "00000000";
+    return Comparison{isNull ? "error 94" : pRow.Expected("result"),
+                      Answer(*source, pRow["target"], TestLocale(pRow["locale"]))};
+  });
 }
 
 TEST(Convert, RefusesWhatHasNoValue) {
-  struct Row {
-    Variant value;
-    RuntimeError error;
-  };
-  const Row rows[] = {{Null{}, RuntimeError::InvalidUseOfNull},
-                      {Variant(nullptr), RuntimeError::ObjectNotSet},
-                      {Variant(New<Object>()), RuntimeError::TypeMismatch},
-                      {Variant(Array<double>(1, 2)), RuntimeError::TypeMismatch}};
-  for (const Row& row : rows)
-    for (auto kind : {VariantKind::Integer, VariantKind::Long, VariantKind::Single, VariantKind::Double,
-                      VariantKind::Date, VariantKind::String, VariantKind::Boolean}) {
-      try {
-        ConvertTo(row.value, kind);
-        ADD_FAILURE() << CorpusValueText(row.value) << " to kind " << static_cast<int>(kind);
-      } catch (const AutomationError& error) {
-        EXPECT_TRUE(error.Is(row.error)) << error.what();
-      }
-    }
+  const std::pair<Variant, std::string> rows[] = {{Null{}, "error 94"},
+                                                  {Variant(nullptr), "error 91"},
+                                                  {Variant(New<Object>()), "error 13"},
+                                                  {Variant(Array<double>(1, 2)), "error 13"}};
+  for (const auto& [value, error] : rows)
+    for (const char* target : {"UI1", "I2", "I4", "R4", "R8", "DATE", "BSTR", "BOOL"})
+      EXPECT_EQ(Answer(value, target, LocaleRules()), error) << CorpusValueText(value) << " to " << target;
   EXPECT_THROW(ConvertTo(Variant(1), VariantKind::Object), AutomationError);
   EXPECT_TRUE(ConvertTo(Variant(nullptr), VariantKind::Object).If<Ref<Object>>());
 }

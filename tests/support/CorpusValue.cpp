@@ -41,7 +41,7 @@ std::optional<Variant> ParseCorpusValue(std::string_view pText) {
   if (kind == "R8") return Variant(std::bit_cast<double>(Digits<std::uint64_t>(content, 16)));
   if (kind == "R4") return Variant(std::bit_cast<float>(Digits<std::uint32_t>(content, 16)));
   if (kind == "DATE") return Variant(Date{std::bit_cast<double>(Digits<std::uint64_t>(content, 16))});
-  if (kind == "I2") return Variant(Digits<std::int16_t>(content, 10));
+  if (kind == "I2" || kind == "UI1") return Variant(Digits<std::int16_t>(content, 10));
   if (kind == "I4") return Variant(Digits<std::int32_t>(content, 10));
   if (kind == "BSTR") return Variant(os::FromUtf8(content));
   if (kind == "BOOL" && (content == "-1" || content == "0")) return Variant(content == "-1");

@@ -2,7 +2,6 @@
 #include <cstdlib>
 #include <map>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -16,33 +15,28 @@ namespace {
 class ScopedEnvironment {
  public:
   explicit ScopedEnvironment(const std::map<std::string, std::string>& pValues) {
-    for (const char* name : {"LC_ALL", "LC_COLLATE", "LC_NUMERIC", "LC_MONETARY", "LC_TIME", "LANG"}) {
+    for (const char* name : kNames)
       if (const char* value = std::getenv(name)) saved_[name] = value;
-      names_.push_back(name);
-      unsetenv(name);
-    }
-    for (const auto& [name, value] : pValues) setenv(name.c_str(), value.c_str(), 1);
+    Replace(pValues);
   }
-  ~ScopedEnvironment() {
-    for (const std::string& name : names_) unsetenv(name.c_str());
-    for (const auto& [name, value] : saved_) setenv(name.c_str(), value.c_str(), 1);
-  }
+  ~ScopedEnvironment() { Replace(saved_); }
   ScopedEnvironment(const ScopedEnvironment&) = delete;
   ScopedEnvironment& operator=(const ScopedEnvironment&) = delete;
 
  private:
-  std::vector<std::string> names_;
+  static constexpr const char* kNames[] = {"LC_ALL", "LC_COLLATE", "LC_NUMERIC", "LC_MONETARY", "LC_TIME", "LANG"};
+
+  static void Replace(const std::map<std::string, std::string>& pValues) {
+    for (const char* name : kNames) unsetenv(name);
+    for (const auto& [name, value] : pValues) setenv(name.c_str(), value.c_str(), 1);
+  }
+
   std::map<std::string, std::string> saved_;
 };
 
-struct EnvironmentRow {
-  std::map<std::string, std::string> values;
-  const char* locale;  // "": the invariant rules
-};
-
 TEST(UserLocale, IsTheOneThatTheEnvironmentNames) {
-  const EnvironmentRow rows[] = {
-      {{}, ""},
+  const std::pair<std::map<std::string, std::string>, const char*> rows[] = {
+      {{}, ""},  // the invariant rules
       {{{"LANG", "C.UTF-8"}}, ""},
       {{{"LANG", "POSIX"}}, ""},
       {{{"LANG", "xx_XX.UTF-8"}}, ""},
@@ -50,12 +44,10 @@ TEST(UserLocale, IsTheOneThatTheEnvironmentNames) {
       {{{"LANG", "de_DE@euro"}}, "de-DE"},
       {{{"LANG", "sv_SE"}, {"LC_ALL", "fr_FR.UTF-8"}, {"LC_TIME", "C"}}, "fr-FR"},
       {{{"LANG", "sv_SE"}, {"LC_ALL", ""}}, "sv-SE"},
-      {{{"LANG", "sv_SE"}, {"LC_ALL", "C"}}, ""},
-  };
-  for (const EnvironmentRow& row : rows) {
-    const ScopedEnvironment environment(row.values);
-    SCOPED_TRACE(row.locale);
-    EXPECT_EQ(os::UserLocaleRules(), os::NamedLocaleRules(row.locale));
+      {{{"LANG", "sv_SE"}, {"LC_ALL", "C"}}, ""}};
+  for (const auto& [values, locale] : rows) {
+    const ScopedEnvironment environment(values);
+    EXPECT_EQ(os::UserLocaleRules(), os::NamedLocaleRules(locale)) << locale;
   }
 }
 
