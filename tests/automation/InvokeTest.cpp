@@ -244,20 +244,20 @@ TEST(Invoke, ChangesByReferenceArgumentsOnSuccessOnly) {
       {u"ChangePoints", {List<Variant>(1, {Point(1, u"a")})}, {"[1: point 2a+]"}},
   };
   Sample sample;
-  for (const auto& [name, before, after] : rows) {
-    std::vector<Variant> arguments = before;
+  for (const auto& row : rows) {
+    std::vector<Variant> arguments = row.before;
     const auto call = [&] {
       return TextOrError(
-          [&] { return Show(InvokeByName(kSample, sample, name, CallKind::Method, Pointers(arguments))); });
+          [&] { return Show(InvokeByName(kSample, sample, row.name, CallKind::Method, Pointers(arguments))); });
     };
     arguments.push_back(Variant(true));
-    std::vector<std::string> shown(before.size());
-    std::transform(before.begin(), before.end(), shown.begin(), Show);
+    std::vector<std::string> shown(row.before.size());
+    std::transform(row.before.begin(), row.before.end(), shown.begin(), Show);
     EXPECT_EQ(call(), "error 61");
     for (std::size_t i = 0; i < shown.size(); ++i) EXPECT_EQ(Show(arguments[i]), shown[i]);
     arguments.pop_back();
     EXPECT_EQ(call(), "empty");
-    for (std::size_t i = 0; i < after.size(); ++i) EXPECT_EQ(Show(arguments[i]), after[i]);
+    for (std::size_t i = 0; i < row.after.size(); ++i) EXPECT_EQ(Show(arguments[i]), row.after[i]);
   }
 }
 
@@ -289,7 +289,7 @@ TEST(Invoke, FieldsOfARecordArePropertiesOfItsObject) {
       {[&] { return record.Let(u"X", u"x"), Variant(); }, "error 13"},
       {[&] { return record.Let(u"Bytes", Array<std::uint8_t>(0, 1)), Variant(); }, "error 10"},
   };
-  for (const auto& [call, expected] : faults) EXPECT_EQ(TextOrError([&] { return Show(call()); }), expected);
+  for (const auto& fault : faults) EXPECT_EQ(TextOrError([&] { return Show(fault.first()); }), fault.second);
 }
 
 }  // namespace

@@ -30,6 +30,7 @@ TEST_F(ThreadSlot, EveryThreadHasItsOwnValueUntilItEnds) {
   os::PerThread<Counted> slot;
   slot->value = -1;
   std::vector<std::thread> threads;
+  threads.reserve(kThreads);
   std::atomic<int> wrong{0};
   for (int i = 0; i < kThreads; ++i)
     threads.emplace_back([&, i] {
