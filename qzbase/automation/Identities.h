@@ -16,11 +16,26 @@ namespace qzbase {
 class GCError;
 class GCMath;
 class GCStrings;
+class GCConvert;
+class GCBase;
 class CBuffer;
 class CDblVector;
 class CLngVector;
 class CStrVector;
 class CBoolVector;
+class CVector;
+class CObjVector;
+class CDblVectors;
+class CDblMatrix;
+class CMatrix;
+class CEntryData;
+class CTable;
+class TVarDesc;
+class TCtrlDesc;
+class TEntryDesc;
+class CVarDescs;
+class CEntryDescs;
+class CTypedInfo;
 
 struct TErrDesc;
 struct TErrIndex;
@@ -61,6 +76,12 @@ template <> inline constexpr Identity identity<GCMath> = GlobalClass("GCMath",
 template <> inline constexpr Identity identity<GCStrings> = GlobalClass("GCStrings",
     "BB4F49EF-D3E5-47D1-A087-06977AEAEFD3", "816AAB5D-5EFF-4F6C-B307-1020C1198034",
     "Tokens, lines, words, units and name indices.");
+template <> inline constexpr Identity identity<GCConvert> = GlobalClass("GCConvert",
+    "7527444D-D80A-44E7-B67B-695011D509D2", "3C073CE0-6910-44FE-9580-79D333F5E9A1",
+    "Values to texts and texts to values, checked.");
+template <> inline constexpr Identity identity<GCBase> = GlobalClass("GCBase",
+    "343E5B0A-A06B-4740-ABE1-4E12309B912A", "946CB5C2-4C21-4043-88AE-E78344277F58",
+    "Makes descriptors and vectors; facts and services of the system.");
 template <> inline constexpr Identity identity<CBuffer> = ObjectClass("CBuffer",
     "6565B8DF-CA64-49A4-82C1-091CD789EC5B", "0ED1242A-4D87-4FDE-B3EA-D773E0D5E0BD",
     "A tagged buffer of bytes in which every object saves and loads itself.");
@@ -76,6 +97,45 @@ template <> inline constexpr Identity identity<CStrVector> = ObjectClass("CStrVe
 template <> inline constexpr Identity identity<CBoolVector> = ObjectClass("CBoolVector",
     "B9619841-E96E-4A14-9B61-3F6F9BB5EA71", "B57172FF-0369-4A91-8339-9A7EC1926FA5",
     "A one-based list of booleans.");
+template <> inline constexpr Identity identity<CVector> = ObjectClass("CVector",
+    "E8B18168-704B-4E3F-A719-BF9268B87455", "5AE769E4-C0F3-441F-912C-02824570556A",
+    "A one-based list of values with a declared type.");
+template <> inline constexpr Identity identity<CObjVector> = ObjectClass("CObjVector",
+    "AF97DE59-9848-479C-876E-AD800365F857", "931F1633-1A76-455D-B09B-21F707E1994C",
+    "A one-based list of objects with keys.");
+template <> inline constexpr Identity identity<CDblVectors> = ObjectClass("CDblVectors",
+    "21DE4C7D-6CAE-4508-963E-87D2D49D35F6", "582F017A-4420-4F5F-BD8D-F1324B307530",
+    "A one-based list of vectors of doubles.");
+template <> inline constexpr Identity identity<CDblMatrix> = ObjectClass("CDblMatrix",
+    "11FA18D7-EBC5-4E92-8666-001A87254838", "E36D0AED-49F9-414D-87DA-12D213250721",
+    "A matrix of doubles, kept by rows.");
+template <> inline constexpr Identity identity<CMatrix> = ObjectClass("CMatrix",
+    "A0369158-F7AE-4A26-8CB1-06CE533477E2", "6D7BDAB7-B271-41AC-B3F2-68FF7A988259",
+    "A matrix of values, kept by rows.");
+template <> inline constexpr Identity identity<CEntryData> = ObjectClass("CEntryData",
+    "FDFEC795-9110-4C61-83BA-6DBF2AE0A7D3", "21B02995-C027-47B8-BDE8-EDA8CF219EE8",
+    "Columns of typed values with one number of rows.");
+template <> inline constexpr Identity identity<CTable> = ObjectClass("CTable",
+    "CACC92F7-98E5-4BF4-BF4F-75CDB8F7BAAB", "974CE9FF-E1E2-48B4-8025-E9490F4D1B31",
+    "A named table whose columns are described.");
+template <> inline constexpr Identity identity<TVarDesc> = ObjectClass("TVarDesc",
+    "539F286B-E926-4D2A-A09F-3990F1C66CA3", "B3317D65-187D-40D3-8FC5-665CC8BCBD77",
+    "What a value is: identifier, type, name, unit, format.");
+template <> inline constexpr Identity identity<TCtrlDesc> = ObjectClass("TCtrlDesc",
+    "EC52F028-7D25-4085-B8A9-D35A3272FA87", "A1C23CA2-4B3C-43AB-A71A-F50B9D663EF8",
+    "How the control that edits a value behaves.");
+template <> inline constexpr Identity identity<TEntryDesc> = ObjectClass("TEntryDesc",
+    "03053FDA-D8EE-4AB3-B482-E7ACD8F80664", "E63D5819-D53B-40F7-808D-DF4ABC19D960",
+    "One entry of data: a value and its control.");
+template <> inline constexpr Identity identity<CVarDescs> = ObjectClass("CVarDescs",
+    "666EB3F9-0009-40D2-9217-36E06E282389", "12DC0FD2-3682-4B26-A157-AABA9154BECD",
+    "A list of value descriptors.");
+template <> inline constexpr Identity identity<CEntryDescs> = ObjectClass("CEntryDescs",
+    "0C36F695-899B-4484-A822-9199D1C21E6D", "76ACC99B-7500-4FCC-9069-AC683EDEA389",
+    "A list of entry descriptors.");
+template <> inline constexpr Identity identity<CTypedInfo> = ObjectClass("CTypedInfo",
+    "0FE5B71B-51A0-4639-8764-F8B1F304190A", "01014518-ABB5-4ECD-91CE-8D58CB5D7C5A",
+    "A list of values, each with its descriptor.");
 
 template <> inline constexpr Identity identity<TErrDesc> = RecordNamed("TErrDesc",
     "89FD365E-0127-48BE-9771-30964EA46B62", "A registered error.");

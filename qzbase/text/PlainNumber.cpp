@@ -1,0 +1,16 @@
+#include "qzbase/text/PlainNumber.h"
+
+#include <algorithm>
+
+#include "qzbase/runtime/NumberReader.h"
+
+namespace qzbase::ModConvert {
+
+bool IsPlainNumber(std::u16string_view pText) {
+  constexpr std::u16string_view kAllowed = u"0123456789.-Ee";
+  double number = 0;
+  return pText.find_first_not_of(kAllowed) == std::u16string_view::npos &&
+         runtime::ReadNumber(pText, number) == runtime::ReadResult::Read;
+}
+
+}  // namespace qzbase::ModConvert
