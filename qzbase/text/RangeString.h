@@ -12,11 +12,27 @@
 // error. Only a number too large for a double raises error 6.
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "qzbase/text/EnumRange.h"  // IWYU pragma: export
 
 namespace qzbase::ModString {
+
+// 0 for a well-formed range, else the number of the registered error InvRangeString, which is not raised. Blanks around
+// the range do not count.
+//
+//   "5" "=5" ">=x"           invalid
+//   "[5;5]" "[5;1]"          invalid: the upper bound is greater. A third number in the brackets does not matter
+//   "{a;;b}" "{}"            invalid: an item is empty; but one last ";" does no harm
+//   "{[0;1];x}"              invalid: beside intervals there are numbers only
+//   "{a;b"                   valid on purpose: without the closing brace nothing is looked at
+std::int32_t CheckRangeStringValid(std::u16string_view Range);
+
+// The range in words of the user's language, for messages and tooltips: "allowed range 0 To 1 Or 5 To 6". Nothing for
+// the empty range.
+std::u16string HumanReadable(std::u16string_view Range);
 
 // Whether a number lies in the interval `Range`, bounds included, and, unless the step is empty or 0, on the grid of
 // steps from the lower bound, as far as a number's text shows (15 digits). An empty range allows everything; a range
