@@ -179,8 +179,9 @@ using TextClasses = TypeList<GCStrings>;
 using PersistClasses = TypeList<CBuffer>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
+using PlatformClasses = TypeList<GCBase>;
 
-using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses>;
+using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =
     TypeList<QZVarType, QZCtrlType, QZColor, TRegKey, GraphLabel, GraphAxis, BorderType, GraphType3D>;
