@@ -177,9 +177,7 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
-using DescClasses = TypeList<TVarDesc,   //
-                             TCtrlDesc,  //
-                             TEntryDesc>;
+using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
 using PlatformClasses = TypeList<GCBase>;
 
