@@ -8,8 +8,9 @@
 //   "{1;2;5;*}"              a combo list: the values are proposals, any entry is allowed
 //
 // Numbers in them have "." as decimal point whatever the locale, and are read up to the first character that cannot
-// continue a number. Nothing here raises for a malformed range: the tests say false, "" or the number of the registered
-// error. A number too large for a double is malformed too.
+// continue a number. Only `CheckRangeStringValid` asks the locale too (PlainNumber.h). Nothing here raises for a
+// malformed range: the tests say false, "" or the number of the registered error. A number too large for a double is
+// malformed too.
 #pragma once
 
 #include <cstdint>
@@ -36,8 +37,8 @@ std::u16string HumanReadable(std::u16string_view Range);
 
 // Whether a number lies in the interval `Range`, bounds included, and, unless the step is empty or 0, on the grid of
 // steps from the lower bound, as far as a number's text shows (15 digits). An empty range allows everything; a range
-// that is no interval is read as one number, which the value must equal (so ">=5" is 0). Raises error 6 where the
-// division by the step overflows.
+// that is no interval is read as one number, which the value must equal (so ">=5", "{1;2}" and "*" too are 0). Raises
+// error 6 where the division by the step overflows.
 bool IsInRange(double Value, std::u16string_view Range, std::u16string_view Step);
 
 }  // namespace qzbase::ModString
