@@ -24,11 +24,11 @@ using runtime::ReadResult;
 
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
-// Whether the text says that there is no value, which must be allowed.
+// Whether the text says that there is no value, and that is allowed; raises where it is not.
 bool IsNoValue(std::u16string_view pValue, bool pAllowInvalid) {
   if (pValue != kInvalidString) return false;
   if (!pAllowInvalid) RaiseBuiltIn(BuiltInError::InValue);
-  return true;
+  return pAllowInvalid;
 }
 
 bool Holds(std::u16string_view pText, std::u16string_view pDelimiter) {
