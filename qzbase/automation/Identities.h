@@ -191,9 +191,12 @@ using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
+using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
 using PlatformClasses = TypeList<GCBase>;
 
-using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>;
+using Rooms =
+    TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses, PlatformClasses>;
+using AllClasses = JoinLists<Rooms>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =
     TypeList<QZVarType, QZCtrlType, QZColor, TRegKey, GraphLabel, GraphAxis, BorderType, GraphType3D>;

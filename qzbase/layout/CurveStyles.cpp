@@ -15,7 +15,7 @@ std::int32_t DefaultColor(std::int32_t pIndex) {
   constexpr std::array<std::int32_t, 10> kCycle = {qzBlue,       qzGreen,    qzRed,       qzCyan,    qzPurple,
                                                    qzDarkYellow, qzDarkBlue, qzDarkGreen, qzDarkRed, qzLightRed};
   const auto offset = runtime::CheckedNarrow<std::int32_t>(std::int64_t{pIndex} - 1);
-  const std::int32_t place = offset % static_cast<std::int32_t>(kCycle.size());
+  const std::int32_t place = pIndex == 0 ? 0 : offset % static_cast<std::int32_t>(kCycle.size());
   return place < 0 ? qzBLACK : kCycle[static_cast<std::size_t>(place)];
 }
 

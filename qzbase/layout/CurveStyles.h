@@ -11,8 +11,8 @@
 
 namespace qzbase {
 
-// The colour of a curve: ten that repeat, blue first. Black below 1, except where the distance is a multiple of ten.
-// Raises error 6 for the most negative index.
+// The colour of a curve: ten that repeat, blue first. Index 0 is blue too, as is one below it whose distance from 1 is
+// a multiple of ten; all others below 1 are black. Raises error 6 for the most negative index.
 std::int32_t DefaultColor(std::int32_t pIndex);
 TCurveStyle DefaultCurveStyle(std::int32_t pIndex);
 
