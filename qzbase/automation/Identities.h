@@ -175,11 +175,9 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 
 // Classes by room: the tables of a room are compiled together.
 using CoreClasses = TypeList<GCError, GCMath>;
-using TextClasses = TypeList<GCStrings>;
+using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
-using DescClasses = TypeList<TVarDesc,   //
-                             TCtrlDesc,  //
-                             TEntryDesc>;
+using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
 using PlatformClasses = TypeList<GCBase>;
 
