@@ -190,7 +190,7 @@ using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
+using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors>;
 using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
 using PlatformClasses = TypeList<GCBase>;
 
