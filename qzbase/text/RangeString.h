@@ -8,9 +8,8 @@
 //   "{1;2;5;*}"              a combo list: the values are proposals, any entry is allowed
 //
 // Numbers in them have "." as decimal point whatever the locale, and are read up to the first character that cannot
-// continue a number. Only `CheckRangeStringValid` asks the locale too (PlainNumber.h). Nothing here raises for a
-// malformed range: the tests say false, "" or the number of the registered error. A number too large for a double is
-// malformed too.
+// continue a number. Nothing here raises for a malformed range: the tests say false, "" or the number of the registered
+// error. A number too large for a double is malformed too.
 #pragma once
 
 #include <cstdint>
