@@ -1,4 +1,5 @@
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <random>
 #include <vector>
@@ -9,18 +10,19 @@
 #include "qzbase/data/VectorSort.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/Corpus.h"
+#include "tests/support/CorpusValue.h"
 #include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
 
 // The sort that defines the order, word by word.
-template <class T>
-std::vector<T> InsertionSorted(const std::vector<T>& pValues, bool pAscending) {
+template <class T, class Greater>
+std::vector<T> InsertionSorted(const std::vector<T>& pValues, bool pAscending, Greater pGreater) {
   std::vector<T> sorted;
   for (const T& value : pValues) {
     auto place = sorted.begin();
-    while (place != sorted.end() && !(pAscending ? *place > value : *place < value)) ++place;
+    while (place != sorted.end() && !(pAscending ? pGreater(*place, value) : pGreater(value, *place))) ++place;
     sorted.insert(place, value);
   }
   return sorted;
@@ -44,9 +46,38 @@ TEST(SortElements, OrdersAnythingAsTheInsertionSortDoes) {
     for (const bool ascending : {true, false}) {
       std::vector<double> sorted = values;
       SortElements(sorted, ascending);
-      ASSERT_EQ(Shown(sorted), Shown(InsertionSorted(values, ascending))) << Shown(values);
+      ASSERT_EQ(Shown(sorted), Shown(InsertionSorted(values, ascending, std::greater<>()))) << Shown(values);
     }
   }
+}
+
+std::string Shown(const std::vector<runtime::Variant>& pValues) {
+  std::string text;
+  for (const runtime::Variant& value : pValues) text += CorpusValueText(value) + ' ';
+  return text;
+}
+
+TEST(SortElements, OrdersVariantsAsTheInsertionSortDoes) {
+  using runtime::Variant;
+  const Variant kValues[] = {{}, 0, 1.0, true, u"", u"B", u"a", runtime::Null(), runtime::Date{1}, -2.5f, std::nan("")};
+  std::mt19937 random(1);
+  for (int round = 0; round < 5'000; ++round) {
+    std::vector<Variant> values(random() % 12);
+    for (Variant& value : values) value = kValues[random() % std::size(kValues)];
+    for (const bool ascending : {true, false}) {
+      std::vector<Variant> sorted = values;
+      SortElements(sorted, ascending);
+      const auto expected = InsertionSorted(values, ascending, [](const Variant& pLeft, const Variant& pRight) {
+        return CompareInSort(pLeft, pRight) == runtime::Order::Greater;
+      });
+      ASSERT_EQ(Shown(sorted), Shown(expected)) << Shown(values);
+    }
+  }
+  std::vector<Variant> values = {u"b", u"B", u"a", nullptr, u"A"};
+  EXPECT_EQ(ErrorOf([&] { SortElements(values, true); }), kTypeMismatch);
+  EXPECT_EQ(Shown(std::vector(values.begin(), values.begin() + 3)), "BSTR:B BSTR:a BSTR:b ");
+  values = {Variant(nullptr)};
+  EXPECT_EQ(ErrorOf([&] { SortElements(values, true); }), 0);  // nothing to compare it with
 }
 
 TEST(SortElements, RewritesTextsAsWholeNumbers) {
