@@ -38,19 +38,12 @@ void Load(CBuffer& pBuffer) {
   object.LoadFromBuffer(&pBuffer);
 }
 
-void LoadTexts(CBuffer& pBuffer) {
-  CVector vector;
-  vector.LetVarType(EVTString);
-  vector.LoadFromBuffer(&pBuffer);
-}
-
 void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
   constexpr void (*kLoaders[])(CBuffer&) = {&Load<CDblVector>,
                                             &Load<CLngVector>,
                                             &Load<CStrVector>,
                                             &Load<CBoolVector>,
                                             &Load<CVector>,
-                                            &LoadTexts,
                                             &Load<CDblVectors>,
                                             &Load<CObjVector>,
                                             &Load<TVarDesc>,
@@ -66,13 +59,7 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &ReadFirst<&CBuffer::NextBoolean>,
                                             &ReadFirst<&CBuffer::GetString>};
   static const std::set<std::int32_t> kDocumented = {
-      0,
-      kInvalidArgument,
-      kOverflow,
-      kOutOfMemory,
-      kSubscript,
-      NumberOf(runtime::RuntimeError::ObjectNotSet),  // of keyed objects that are not there
-      NumberOf(BuiltInError::InvVarType)};
+      0, kInvalidArgument, kOverflow, kOutOfMemory, kSubscript, kObjectNotSet, NumberOf(BuiltInError::InvVarType)};
   CBuffer buffer;
   for (std::size_t i = 0; i < std::size(kLoaders); ++i) {
     buffer.LetByteArray({0, pBytes});
