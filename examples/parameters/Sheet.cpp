@@ -17,7 +17,7 @@ Ref<CEntryDescs> ChamberSheet() {
   add(GCBase::NewEntryDesc(u"Fan", EVTEnum, u"Fan", u"", ECTCombo, u"{Off;Low;High}", u"{Off;Low;High}"),
       u"The speed of the fan");
   add(GCBase::NewEntryDesc(u"Start", EVTDate, u"First day", u"", ECTEdit, u"dd.mm.yyyy"), u"When the programme begins");
-  add(GCBase::NewEntryDesc(u"Alarm", EVTBoolean, u"Alarm", u"", ECTOption, u"{Yes;No}"),
+  add(GCBase::NewEntryDesc(u"Alarm", EVTBoolean, u"Alarm", u"", ECTOption, u"{Yes;No}", u"{Yes;No}"),
       u"Whether leaving the tolerance sounds the horn");
   add(GCBase::NewEntryDesc(u"Report", EVTString, u"Report to", u"", ECTCombo, u"", u"{Printer;File;'nobody'}"),
       u"Where the protocol goes");

@@ -27,9 +27,9 @@ void Print(const char* pFormat, std::u16string_view pFirst, std::u16string_view 
   std::printf(pFormat, os::ToUtf8(pFirst).c_str(), os::ToUtf8(pSecond).c_str(), os::ToUtf8(pThird).c_str());
 }
 
-// What a user may enter: the range in words, or the words of the format's list.
+// What a user may enter: the range in words, or how a date is written.
 std::u16string Hint(const TEntryDesc& pDesc) {
-  return GCStrings::HumanReadable(pDesc.Range().empty() ? pDesc.OutFormat() : pDesc.Range());
+  return pDesc.VarType() == EVTDate ? u"as " + pDesc.OutFormat() : GCStrings::HumanReadable(pDesc.Range());
 }
 
 void ShowSheet(const CEntryDescs& pSheet) {
@@ -48,8 +48,8 @@ void Enter(CTypedInfo& pValues, const TypedText& pTyped) {
   try {
     GCConvert::CheckValueED(pTyped.text, desc, true, false);
   } catch (const runtime::AutomationError& error) {
-    Print("  %-18s %-22s %s", desc.Name(), typed, GCError::ErrorMessage(error.Number()));
-    Print(desc.Range().empty() ? "\n" : "; %s\n", Hint(desc));
+    Print("  %-18s %-22s %s; ", desc.Name(), typed, GCError::ErrorMessage(error.Number()));
+    Print("%s\n", Hint(desc));
     return;
   }
   pValues.SetValue(pTyped.id, GCConvert::StringToValueVD(pTyped.text, *desc.VarDesc()));
@@ -76,12 +76,17 @@ void Run(const std::string& pPath) {
   CBuffer buffer;
   values.SaveToBuffer(&buffer);
   SaveFile(pPath, buffer);
-  const Ref<CBuffer> loadedBuffer = LoadFile(pPath);
+  const Ref<CBuffer> saved = LoadFile(pPath);
   CTypedInfo loaded;
-  loaded.LoadFromBuffer(loadedBuffer.get());
-  std::printf("\nSaved %d bytes into %s and read back:\n", buffer.Size(), pPath.c_str());
-  ShowValues(loaded);
+  loaded.LoadFromBuffer(saved.get());
   if (!loaded.IsEqual(values)) throw std::runtime_error("does not read back as it was written");
+
+  // The next run begins with its own descriptors, which may be newer ones, and takes the values over.
+  CTypedInfo next;
+  next.SetupFrom(*ChamberSheet());
+  next.UpdateFrom(loaded);
+  std::printf("\nSaved %d bytes into %s and read back:\n", buffer.Size(), pPath.c_str());
+  ShowValues(next);
 }
 
 }  // namespace
