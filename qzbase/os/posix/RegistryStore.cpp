@@ -12,6 +12,7 @@
 #include "qzbase/os/RegistryStore.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <functional>
 #include <initializer_list>
 
@@ -76,7 +77,7 @@ RegistryResult ResultOfCode(int pCode, int pErrno) noexcept {
 // The statements of one connection.
 class Database {
  public:
-  Database(const std::string& pPath, int pFlags) {
+  Database(const std::string& pPath, int pFlags) : mayMake_((pFlags & SQLITE_OPEN_CREATE) != 0) {
     sqlite3* database = nullptr;
     const int code = sqlite3_open_v2(pPath.c_str(), &database, SQLITE_OPEN_READWRITE | pFlags, nullptr);
     handle_.reset(database);
@@ -116,11 +117,13 @@ class Database {
   void Check(int pCode) const {
     if (pCode == SQLITE_OK || pCode == SQLITE_ROW || pCode == SQLITE_DONE) return;
     const int systemError = handle_ ? sqlite3_system_errno(handle_.get()) : 0;
-    throw StoreFault{ResultOfCode(pCode, systemError)};
+    // A file that could not be made is tried once more without making it, and is told to be missing then.
+    throw StoreFault{ResultOfCode(pCode, mayMake_ && systemError == ENOENT ? EACCES : systemError)};
   }
 
  private:
   DatabaseHandle handle_;
+  bool mayMake_;
 };
 
 // An empty file has no tables yet, and is no fault: it is what a kill can leave of a file's first transaction.
