@@ -66,11 +66,13 @@ void ChangeDir(std::u16string_view pDirectory) {
 }
 
 std::int32_t MakeDir(std::u16string_view pPath) {
-  return PathExists(pPath) ? 0 : NumberOf(os::MakeFolder(PathToDir(pPath)));
+  const std::u16string folder = PathToDir(pPath);
+  return PathExists(folder) ? 0 : NumberOf(os::MakeFolder(folder));
 }
 
 std::int32_t DelDir(std::u16string_view pPath) {
-  return PathExists(pPath) ? NumberOf(os::RemoveFolder(PathToDir(pPath))) : 0;
+  const std::u16string folder = PathToDir(pPath);
+  return PathExists(folder) ? NumberOf(os::RemoveFolder(folder)) : 0;
 }
 
 void GetDirContents(std::u16string_view pRootDir, std::u16string_view pPattern, bool pRecursive, CStrVector& pNames,
