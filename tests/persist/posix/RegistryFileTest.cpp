@@ -13,7 +13,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "qzbase/os/RegistryStore.h"
 #include "qzbase/persist/GCRegistry.h"
 #include "qzbase/runtime/Convert.h"
 #include "tests/persist/ScratchStore.h"
@@ -24,12 +23,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int32_t NumberOf(os::RegistryResult pResult) {
-  return static_cast<std::int32_t>(pResult);
-}
-constexpr std::int32_t kNotFound = NumberOf(os::RegistryResult::NotFound);
-constexpr std::int32_t kAccessDenied = NumberOf(os::RegistryResult::AccessDenied);
-constexpr std::int32_t kCorrupt = NumberOf(os::RegistryResult::Corrupt);
+// The platform's results.
+constexpr std::int32_t kNotFound = 2, kAccessDenied = 5, kNoRoot = 6, kBadPathName = 161, kCorrupt = 1015;
 
 std::int32_t Save(std::int32_t pRoot, std::u16string_view pKey, std::int32_t pValue) {
   return GCRegistry::REGSaveValue(TRegKey(pRoot), u"Software\\App", pKey, pValue);
@@ -53,15 +48,15 @@ TEST_F(RegistryFile, EveryRootHasItsOwn) {
   EXPECT_EQ(Get(HKEY_CURRENT_USER, u"Key"), 0);
   EXPECT_EQ(Delete(HKEY_CURRENT_USER), kNotFound);
   EXPECT_TRUE(fs::is_empty(store_.Folder())) << "only writing makes files";
-  const std::int32_t results[] = {0, 0, 0, 0, 6, 0, 6, 6};
+  const std::int32_t results[] = {0, 0, 0, 0, kNoRoot, 0, kNoRoot, kNoRoot};
   for (std::int32_t root = 0; root < 8; ++root) EXPECT_EQ(Save(root, u"\u017E", root + 1), results[root]) << root;
   for (std::int32_t root = 0; root < 8; ++root)
     EXPECT_EQ(Get(root, u"\u017D"), results[root] == 0 ? root + 1 : 0) << root;
-  EXPECT_EQ(Save(-1, u"Key", 1), 6);
-  EXPECT_EQ(Delete(HKEY_DYN_DATA), 6);
+  EXPECT_EQ(Save(-1, u"Key", 1), kNoRoot);
+  EXPECT_EQ(Delete(HKEY_DYN_DATA), kNoRoot);
   EXPECT_TRUE(fs::exists(userFile_) && fs::exists(machineFile_));
   EXPECT_EQ(fs::status(userFile_.parent_path()).permissions(), fs::perms::owner_all);
-  EXPECT_EQ(GCRegistry::REGCreateNewSection(HKEY_CURRENT_USER, u"\\App"), NumberOf(os::RegistryResult::BadPathName));
+  EXPECT_EQ(GCRegistry::REGCreateNewSection(HKEY_CURRENT_USER, u"\\App"), kBadPathName);
 }
 
 TEST_F(RegistryFile, IsLeftAsItIsWhenDamaged) {
@@ -87,23 +82,16 @@ TEST_F(RegistryFile, IsLeftAsItIsWhenDamaged) {
   EXPECT_EQ(Save(HKEY_CURRENT_USER, u"Key", 2), 0);
 }
 
-// The rights of nobody for the length of a scope, where the tests run with all rights.
-struct AsNobody {
-  AsNobody() { EXPECT_EQ(isRoot ? seteuid(65534) : 0, 0); }
-  ~AsNobody() { EXPECT_EQ(isRoot ? seteuid(0) : 0, 0); }
-  bool isRoot = geteuid() == 0;
-};
-
 TEST_F(RegistryFile, IsReadWithoutTheRightToWrite) {
   ASSERT_EQ(Save(HKEY_LOCAL_MACHINE, u"Key", 1), 0);
   fs::permissions(machineFile_, fs::perms(0444));
   fs::permissions(machineFile_.parent_path(), fs::perms(0555));
-  {
-    const AsNobody nobody;
-    EXPECT_EQ(Get(HKEY_LOCAL_MACHINE, u"Key"), 1);
-    for (const std::int32_t root : {2, 3}) EXPECT_EQ(Save(root, u"Key", 2), kAccessDenied);
-    EXPECT_EQ(Delete(HKEY_LOCAL_MACHINE), kAccessDenied);
-  }
+  const uid_t self = geteuid();
+  ASSERT_EQ(seteuid(self == 0 ? 65534 : self), 0);  // nobody, where the tests run with all rights
+  EXPECT_EQ(Get(HKEY_LOCAL_MACHINE, u"Key"), 1);
+  for (const std::int32_t root : {2, 3}) EXPECT_EQ(Save(root, u"Key", 2), kAccessDenied);
+  EXPECT_EQ(Delete(HKEY_LOCAL_MACHINE), kAccessDenied);
+  ASSERT_EQ(seteuid(self), 0);
   fs::permissions(machineFile_.parent_path(), fs::perms(0755));
 }
 
