@@ -8,16 +8,17 @@
 
 namespace qzbase {
 
-// What the call raises ends here; the thread's last error stays the one that it was, since it may be the very one that
-// is being shown.
+// What the call raises ends here. The thread's last error stays the one that it was, whatever the call does: it may be
+// the very one that is being shown.
 template <class Call>
 void IgnoreErrors(Call&& pCall) {
-  const runtime::ErrorRecord last = runtime::LastError();
+  runtime::ErrorRecord last = runtime::LastError();
   try {
     std::forward<Call>(pCall)();
   } catch (const std::exception&) {
-    runtime::SetLastError(last);
+    // Nobody's concern.
   }
+  runtime::SetLastError(std::move(last));
 }
 
 }  // namespace qzbase

@@ -56,7 +56,10 @@ runtime::Ref<CStrVector> WindowsLocalGroups() {
 
 std::int32_t WindowsCheckUser(std::u16string_view, std::u16string_view UserName, std::u16string_view Password) {
   if (os::IsLogonValid(UserName, Password)) return 0;
-  return ModError::ErrCodeOf(ModError::IndexOf(BuiltInError::InvWinPasswd));
+  const TErrIndex error = ModError::IndexOf(BuiltInError::InvWinPasswd);
+  const std::int32_t code = ModError::ErrCodeOf(error);
+  // A number of 0, which a host may have given the error, would say that the password is right.
+  return code != 0 ? code : ErrorRegistry::kCodeBase + error.Value;
 }
 
 }  // namespace qzbase::ModBase

@@ -104,7 +104,9 @@ TEST(Display, DebugLines) {
     for (std::int32_t i = 1; i <= lines; ++i) GCBase::ShowDebugLine(i == lines ? u"last" : u"line");
     EXPECT_EQ(static_cast<std::int32_t>(list->lines.size()), kept);
     EXPECT_EQ(runtime::ToLong((*list)[u"TopIndex"]), top) << lines;
-    if (kept > 0) EXPECT_EQ(list->lines.back(), u"last");
+    if (kept > 0) {
+      EXPECT_EQ(list->lines.back(), u"last");
+    }
     EXPECT_EQ(runtime::LastError().source, u"source");
   }
   GCBase::SetDbgWindow(nullptr);

@@ -115,7 +115,6 @@ TEST_F(Waits, EndInTime) {
   const std::int32_t start = GCBase::TimeInCentiSecs();
   GCBase::WaitSecs(0.03);
   EXPECT_GE(GCBase::TimeInCentiSecs(), start + 3);
-  EXPECT_GE(rounds, 1);
   rounds = 0;
   GCBase::WaitSecs(0);
   GCBase::WaitSecs(-1);

@@ -3,8 +3,11 @@
 #include <array>
 #include <memory>
 
-#include <lm.h>
+// lm.h needs what windows.h declares.
+// clang-format off
 #include <windows.h>
+#include <lm.h>
+// clang-format on
 
 namespace qzbase::os {
 namespace {
