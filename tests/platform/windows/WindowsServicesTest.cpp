@@ -47,11 +47,5 @@ TEST(WindowsServices, DebugLinesInAnOpenFile) {
   CloseHandle(writer);
 }
 
-TEST(WindowsServices, UserAndComputer) {
-  EXPECT_FALSE(GCBase::WindowsUserName().empty());
-  EXPECT_FALSE(GCBase::WindowsServerName().empty());
-  EXPECT_EQ(GCBase::OperatingSystem(), 2);
-}
-
 }  // namespace
 }  // namespace qzbase::tests
