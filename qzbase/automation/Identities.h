@@ -177,9 +177,12 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings>;
 using PersistClasses = TypeList<CBuffer>;
+using DescClasses = TypeList<TVarDesc,   //
+                             TCtrlDesc,  //
+                             TEntryDesc>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CEntryData, CTable>;
 
-using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DataClasses>;
+using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =
     TypeList<QZVarType, QZCtrlType, QZColor, TRegKey, GraphLabel, GraphAxis, BorderType, GraphType3D>;

@@ -24,9 +24,9 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "qzbase/desc/CEntryDescs.h"
+#include "qzbase/runtime/Array.h"
 #include "qzbase/runtime/Object.h"
 #include "qzbase/runtime/Variant.h"
 
@@ -49,8 +49,8 @@ class CTypedInfo final : public runtime::Object {
   // A position past the end drops the last info.
   void DeleteInfo(std::int32_t pIndex);
 
-  const runtime::Variant& Value(std::int32_t pIndex) const { return values_[Offset(pIndex)]; }
-  void LetValue(std::int32_t pIndex, runtime::Variant pValue) { values_[Offset(pIndex)] = std::move(pValue); }
+  const runtime::Variant& Value(std::int32_t pIndex) const { return values_[pIndex]; }
+  void LetValue(std::int32_t pIndex, runtime::Variant pValue) { values_[pIndex] = std::move(pValue); }
 
   // The first info with this ID, ignoring case; -1 where there is none.
   std::int32_t Index(std::u16string_view pID) const { return descs_->Index(pID); }
@@ -77,11 +77,10 @@ class CTypedInfo final : public runtime::Object {
   void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
 
  private:
-  std::size_t Offset(std::int32_t pIndex) const;
   void ResizeValues();
 
   runtime::Ref<CEntryDescs> descs_ = runtime::New<CEntryDescs>();
-  std::vector<runtime::Variant> values_ = std::vector<runtime::Variant>(1);  // one at least
+  runtime::Array<runtime::Variant> values_{1, 1};  // to the number of infos, and 1 at least
 };
 
 }  // namespace qzbase

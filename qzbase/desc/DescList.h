@@ -20,9 +20,9 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "qzbase/persist/CBuffer.h"
+#include "qzbase/runtime/Array.h"
 #include "qzbase/runtime/Object.h"
 
 namespace qzbase {
@@ -42,15 +42,15 @@ class DescList : public runtime::Object {
   runtime::Ref<Element> Desc(std::int32_t pIndex) const { return At(pIndex).GetCopy(); }
 
   // The stored object itself, unset where the slot holds none. The reference is good until the list changes.
-  const runtime::Ref<Element>& DescRef(std::int32_t pIndex) const { return slots_[Offset(pIndex)]; }
+  const runtime::Ref<Element>& DescRef(std::int32_t pIndex) const { return slots_[pIndex]; }
 
   // The same for the library's own classes: error 91 where the slot holds none.
   Element& At(std::int32_t pIndex) const;
 
   void AddDesc(const Element& pDesc) { InsertDesc(pDesc, 0); }
 
-  // Shifts the descriptors between the positions by one, over the one that moves: it is not stored again at its new
-  // position, where the last two of the others (or, moving down, all of them) are one shared object afterwards.
+  // Every slot from the one position towards the other takes over the object of its upper neighbour, and nothing is
+  // stored in the last one: an object is lost, and slots share one afterwards. Callers rely on it.
   //
   //   A B C   MoveDesc 1, 3   B C C
   //   A B C   MoveDesc 3, 1   C C C
@@ -74,11 +74,9 @@ class DescList : public runtime::Object {
   void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
 
  private:
-  std::size_t Offset(std::int32_t pIndex) const;
   void Resize(std::int32_t pSize);
-  void FillSlots(std::int32_t pFrom);
 
-  std::vector<runtime::Ref<Element>> slots_ = std::vector<runtime::Ref<Element>>(1);  // max(size_, 1)
+  runtime::Array<runtime::Ref<Element>> slots_{1, 1};  // to max(size_, 1)
   std::int32_t size_ = 0;
   bool mayHoldNone_ = false;  // whether one of the slots up to the size was set to nothing
 };

@@ -9,6 +9,7 @@
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CLngVector.h"
 #include "qzbase/data/CStrVector.h"
+#include "qzbase/desc/TEntryDesc.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
@@ -27,10 +28,10 @@ void ReadFirst(CBuffer& pBuffer) {
   (pBuffer.*Next)();
 }
 
-template <class Vector>
+template <class Saved>
 void Load(CBuffer& pBuffer) {
-  Vector vector;
-  vector.LoadFromBuffer(&pBuffer);
+  Saved object;
+  object.LoadFromBuffer(&pBuffer);
 }
 
 void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
@@ -38,6 +39,9 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CLngVector>,
                                             &Load<CStrVector>,
                                             &Load<CBoolVector>,
+                                            &Load<TVarDesc>,
+                                            &Load<TCtrlDesc>,
+                                            &Load<TEntryDesc>,
                                             &ReadFirst<&CBuffer::NextLong>,
                                             &ReadFirst<&CBuffer::NextString>,
                                             &ReadFirst<&CBuffer::NextData>,
@@ -65,6 +69,13 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
     {"CLngVector", "/VE#1;3;7;-2147483636;2147483647;\\VE;"},
     {"CStrVector", "/VE#1;4;a;b;~;;\u00C4\u4E2D;\\VE;"},
     {"CBoolVector", "/VE#1;3;True;False;True;\\VE;"},
+    {"TVarDesc.1", "/VD#1;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;\\VD;"},
+    {"TVarDesc", "/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"},
+    {"TCtrlDesc.1", "/CD#1;Temp;2;False;1200;False;True;True;True;\\CD;"},
+    {"TCtrlDesc", "/CD#2;Temp;2;True;[0;100];0.5;1200;False;True;True;\\CD;"},
+    {"TEntryDesc",
+     "/ED#1;\n/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"
+     "\n/CD#2;Temp;2;True;[0;100];0.5;1200;False;True;True;\\CD;\\ED;"},
 };
 
 TEST(HostileBytes, FailOnlyAsDocumented) {
