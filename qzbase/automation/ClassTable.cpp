@@ -27,6 +27,7 @@ extern template struct RoomEntries<TextClasses>;
 extern template struct RoomEntries<PersistClasses>;
 extern template struct RoomEntries<DescClasses>;
 extern template struct RoomEntries<DataClasses>;
+extern template struct RoomEntries<PlatformClasses>;
 
 namespace {
 
@@ -39,7 +40,7 @@ using runtime::Variant;
 
 constexpr std::span<const ClassEntry> kRooms[] = {
     RoomEntries<CoreClasses>::kEntries, RoomEntries<TextClasses>::kEntries, RoomEntries<PersistClasses>::kEntries,
-    RoomEntries<DescClasses>::kEntries, RoomEntries<DataClasses>::kEntries};
+    RoomEntries<DescClasses>::kEntries, RoomEntries<DataClasses>::kEntries, RoomEntries<PlatformClasses>::kEntries};
 
 // All classes, and a hash table of their types. Types are looked up by address: within one program a type has one.
 class ClassList {

@@ -7,9 +7,9 @@
 //   descs->Index(u"mass");              // 1
 //
 // Growing fills the new slots with new descriptors, shrinking drops those beyond the end. There is always a slot 1,
-// which holds none while `Size` is 0 or less. Positions are checked against the slots: outside them error 9 is raised.
-// A slot that holds none, because it was set to nothing, raises 91 when its descriptor is used; the next change of the
-// size gives it a new one.
+// which holds none at first and when the size becomes 0 or less. Positions are checked against the slots: outside them
+// error 9 is raised. A slot that holds none, because it was set to nothing, raises 91 when its descriptor is used; the
+// next let of the size gives it a new one.
 //
 // Record: the opening tag of the class ("VV#1", "DV#1"), the size as a long, each descriptor's record, the closing tag.
 //

@@ -32,7 +32,8 @@ struct Field {
 constexpr std::size_t kMaxFields = 6;
 
 // The result is the number of fields.
-std::size_t SplitFields(std::u16string_view pText, std::u16string_view pFormat, std::array<Field, kMaxFields>& pFields) {
+std::size_t SplitFields(std::u16string_view pText, std::u16string_view pFormat,
+                        std::array<Field, kMaxFields>& pFields) {
   std::size_t count = 0;
   std::size_t end = 0;
   for (std::size_t start = 0; start < pFormat.size() && count < kMaxFields; start = end) {

@@ -5,6 +5,7 @@
 #include "qzbase/core/Arithmetic.h"
 #include "qzbase/core/LocalizedText.h"
 #include "qzbase/core/ModError.h"
+#include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/NumberText.h"
 #include "qzbase/runtime/TextCompare.h"
 #include "qzbase/text/ModString.h"
@@ -72,6 +73,16 @@ bool IsValidRange(std::u16string_view pRange) {
   return pRange.starts_with(u'{') && IsValidEnumeration(pRange);
 }
 
+// A number in a range or step; false where it is too large for one.
+bool ReadBound(std::u16string_view pText, double& pNumber) {
+  try {
+    pNumber = runtime::LeadingNumber(pText);
+    return true;
+  } catch (const runtime::AutomationError&) {
+    return false;
+  }
+}
+
 // A translated word that stands between two values.
 std::u16string Between(std::u16string_view pKey) {
   return u' ' + LocalizedText(pKey) + u' ';
@@ -110,13 +121,13 @@ std::u16string HumanReadable(std::u16string_view Range) {
 
 bool IsInRange(double Value, std::u16string_view Range, std::u16string_view Step) {
   if (Range.empty()) return true;
-  if (!Range.starts_with(u'[')) return runtime::LeadingNumber(Range) == Value;
+  double lower = 0;
+  double upper = 0;
+  double step = 0;
+  if (!Range.starts_with(u'[')) return ReadBound(Range, lower) && lower == Value;
   Bounds bounds;
-  if (!TakeBounds(Range, bounds)) return false;
-  const double lower = runtime::LeadingNumber(bounds.lower);
-  const double upper = runtime::LeadingNumber(bounds.upper);
-  if (lower > Value || upper < Value) return false;
-  const double step = runtime::LeadingNumber(Step);
+  if (!TakeBounds(Range, bounds) || !ReadBound(bounds.lower, lower) || !ReadBound(bounds.upper, upper)) return false;
+  if (lower > Value || upper < Value || !ReadBound(Step, step)) return false;
   return step == 0 || ShowsAsWhole(Divide(Add(Value, -lower), step));
 }
 

@@ -9,7 +9,7 @@
 //
 // Numbers in them have "." as decimal point whatever the locale, and are read up to the first character that cannot
 // continue a number. Nothing here raises for a malformed range: the tests say false, "" or the number of the registered
-// error. Only a number too large for a double raises error 6.
+// error. A number too large for a double is malformed too.
 #pragma once
 
 #include <cstdint>

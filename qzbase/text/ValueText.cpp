@@ -95,10 +95,8 @@ std::u16string LongToString(std::int32_t pValue, std::u16string_view pFormat, co
 
 std::u16string DoubleToString(double pValue, std::u16string_view pFormat, bool pLocalize, const LocaleRules& pRules) {
   if (pValue == kInvalidDouble) return std::u16string(kInvalidString);
-  std::u16string text =
-      IsFiguresFormat(pFormat)
-          ? DoubleToStringSF(pValue, FiguresOf(pFormat), pRules)
-          : runtime::Format(pValue, pFormat, pRules);
+  std::u16string text = IsFiguresFormat(pFormat) ? DoubleToStringSF(pValue, FiguresOf(pFormat), pRules)
+                                                 : runtime::Format(pValue, pFormat, pRules);
   if (!pLocalize) DelocalizeNumber(text, pRules);
   return text;
 }

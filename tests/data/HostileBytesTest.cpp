@@ -9,7 +9,8 @@
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CLngVector.h"
 #include "qzbase/data/CStrVector.h"
-#include "qzbase/desc/TEntryDesc.h"
+#include "qzbase/desc/CTypedInfo.h"
+#include "qzbase/desc/CVarDescs.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
@@ -42,6 +43,9 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<TVarDesc>,
                                             &Load<TCtrlDesc>,
                                             &Load<TEntryDesc>,
+                                            &Load<CVarDescs>,
+                                            &Load<CEntryDescs>,
+                                            &Load<CTypedInfo>,
                                             &ReadFirst<&CBuffer::NextLong>,
                                             &ReadFirst<&CBuffer::NextString>,
                                             &ReadFirst<&CBuffer::NextData>,
@@ -76,6 +80,16 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
     {"TEntryDesc",
      "/ED#1;\n/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"
      "\n/CD#2;Temp;2;True;[0;100];0.5;1200;False;True;True;\\CD;\\ED;"},
+    {"CVarDescs", "/VV#1;2;\n/VD#2;L;;;2;;False;;0;;False;\\VD;\n/VD#2;n;;;3;;False;;0;;False;\\VD;\\VV;"},
+    {"CEntryDescs",
+     "/DV#1;2;\n/ED#1;\n/VD#2;L;;;2;;False;;0;;False;\\VD;\n/CD#2;L;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;n;;;3;;False;;0;;False;\\VD;\n/CD#2;n;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"},
+    {"CTypedInfo",
+     "/TypedInfo#1;\n/DV#1;3;"
+     "\n/ED#1;\n/VD#2;n;;;3;;False;;0;;False;\\VD;\n/CD#2;n;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;o;;;7;;False;;0;;False;\\VD;\n/CD#2;o;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;d;;;2;;False;;0;;False;\\VD;\n/CD#2;d;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"
+     "3;1.5;\\TypedInfo;"},
 };
 
 TEST(HostileBytes, FailOnlyAsDocumented) {

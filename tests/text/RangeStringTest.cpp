@@ -104,7 +104,8 @@ TEST_F(Ranges, NumbersInRangeAndOnTheGrid) {
               {0, u"[1;2", u"", false},       {0, u"[0]", u"", false},       {1, u"[1;1;5]", u"", true},
               {0, u">=5", u"", true},         {5, u">=5", u"", false},       {5, u"5x", u"2", true},
               {2.5, u"[0.5;4]", u"1", true},  {2, u"[0.5;4]", u"1", false},  {-3, u"[-5;0]", u"-2", true},
-              {1e-20, u"[0;1]", u"1", false}, {3, u"[0;9]", u"2x", false},   {1234567.3, u"[0;9e9]", u"0.1", true}};
+              {1e-20, u"[0;1]", u"1", false}, {3, u"[0;9]", u"2x", false},   {1234567.3, u"[0;9e9]", u"0.1", true},
+              {1, u"[0;1E999]", u"", false},  {1, u"[0;1]", u"1E999", false}};
   for (const auto& row : rows)
     EXPECT_EQ(ModString::IsInRange(row.value, row.range, row.step), row.expected) << row.value << ToUtf8(row.range);
   EXPECT_EQ(ErrorOf([] { ModString::IsInRange(1, u"[0;1]", u"1E-320"); }), kOverflow);

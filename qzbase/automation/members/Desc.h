@@ -4,6 +4,9 @@
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/Members.h"
 #include "qzbase/automation/members/ObjectRows.h"
+#include "qzbase/desc/CEntryDescs.h"
+#include "qzbase/desc/CTypedInfo.h"
+#include "qzbase/desc/CVarDescs.h"
 #include "qzbase/desc/QZCtrlType.h"
 #include "qzbase/desc/TCtrlDesc.h"
 #include "qzbase/desc/TEntryDesc.h"
@@ -103,5 +106,54 @@ inline constexpr auto members<TEntryDesc> =
           kDescUserDefined<TEntryDesc>, kDescLocked<TEntryDesc>, set<&TEntryDesc::SetCtrlDesc>("CtrlDesc"),
           get<&TEntryDesc::CtrlDesc>("CtrlDesc", "The control part itself."), set<&TEntryDesc::SetVarDesc>("VarDesc"),
           get<&TEntryDesc::VarDesc>("VarDesc", "The value part itself."), DescRows<TEntryDesc>());
+
+// ---- What holds descriptors.
+
+template <class L>
+inline constexpr auto kGetDesc = get<&L::Desc>("Desc", {"pIndex"}, "A copy of the descriptor at a position from 1.");
+template <class L>
+inline constexpr auto kSetDesc = set<&L::SetDesc>("Desc", {"pIndex"});
+template <class L>
+inline constexpr auto kLetDesc = let<&L::LetDesc>("Desc", {"pIndex"});
+template <class L>
+inline constexpr auto kDescRef = get<&L::DescRef>("DescRef", {"pIndex"}, "The stored descriptor itself.");
+template <class L>
+inline constexpr auto kIndexOfID = method<&L::Index>("Index", {"pID"},
+                                                     "The first position of an identifier, -1 if there is none.");
+
+template <class L>
+constexpr auto DescListTable() {
+  return table(let<&L::LetSize>("Size"), get<&L::Size>("Size", "The number of descriptors."), kSetDesc<L>, kLetDesc<L>,
+               kGetDesc<L>, kDescRef<L>, method<&L::AddDesc>("AddDesc", {"pDesc"}, "Appends a copy of a descriptor."),
+               method<&L::MoveDesc>("MoveDesc", {"pOldPos", "pNewPos"},
+                                    "Shifts the descriptors from one position to another by one."),
+               method<&L::InsertDesc>("InsertDesc", {"pDesc", "pAtPos"},
+                                      "Inserts a copy of a descriptor and returns its position."),
+               method<&L::DeleteDesc>("DeleteDesc", {"pIndex"}, "Removes a descriptor."), kIndexOfID<L>,
+               method<&L::GetString>("GetString", "The texts of all descriptors, for people."), ObjectRows<L>());
+}
+
+template <>
+inline constexpr auto members<CVarDescs> = DescListTable<CVarDescs>();
+template <>
+inline constexpr auto members<CEntryDescs> = DescListTable<CEntryDescs>();
+
+template <>
+inline constexpr auto members<CTypedInfo> =
+    table(method<&CTypedInfo::Clear>("Clear", "Removes all infos."), let<&CTypedInfo::LetNrInfos>("NrInfos"),
+          get<&CTypedInfo::NrInfos>("NrInfos", "The number of infos."), kGetDesc<CTypedInfo>, kSetDesc<CTypedInfo>,
+          kLetDesc<CTypedInfo>, kDescRef<CTypedInfo>,
+          method<&CTypedInfo::AddInfo>("AddInfo", {"pDesc", "pValue"}, "Appends a value and a copy of its descriptor."),
+          method<&CTypedInfo::DeleteInfo>("DeleteInfo", {"pIndex"}, "Removes a value and its descriptor."),
+          get<&CTypedInfo::Value>("Value", {"pIndex"}, "The value at a position from 1."),
+          let<&CTypedInfo::LetValue>("Value", {"pIndex"}), kIndexOfID<CTypedInfo>,
+          method<&CTypedInfo::GetValue>("GetValue", {"pID"}, "The value of an identifier, \"\" if there is none."),
+          method<&CTypedInfo::SetValue>("SetValue", {"pID", "pValue"}, "Changes the value of an identifier."),
+          get<&CTypedInfo::DescsRef>("DescsRef", "The list of the descriptors itself."),
+          method<&CTypedInfo::GetString>("GetString", "All identifiers and all values, for people."),
+          method<&CTypedInfo::SetupFrom>("SetupFrom", {"pDesc"}, "Takes over descriptors and empties all values."),
+          method<&CTypedInfo::UpdateFrom>("UpdateFrom", {"pSource"},
+                                          "Takes over the values whose identifiers are known here."),
+          ObjectRows<CTypedInfo>());
 
 }  // namespace qzbase::automation
