@@ -6,10 +6,11 @@
 #include "qzbase/automation/members/ObjectRows.h"
 #include "qzbase/data/CBoolVector.h"
 #include "qzbase/data/CDblVector.h"
-#include "qzbase/data/CEntryData.h"
+#include "qzbase/data/CDblVectors.h"
 #include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CObjVector.h"
 #include "qzbase/data/CStrVector.h"
-#include "qzbase/data/CTable.h"
+#include "qzbase/data/CVector.h"
 #include "qzbase/data/TPoint.h"
 
 namespace qzbase::automation {
@@ -18,7 +19,7 @@ template <>
 inline constexpr auto fields<TPoint> = record(field<&TPoint::X>("X", "The abscissa."),
                                               field<&TPoint::Y>("Y", "The ordinate."));
 
-// ---- The typed vectors: the rows that they share, in the order in which they stand.
+// ---- The vectors: the rows that they share, in the order in which they stand.
 
 template <class V>
 inline constexpr auto kVectorType = method<&V::VarType>("VarType", "The value type of the elements.");
@@ -27,18 +28,27 @@ inline constexpr auto kVectorSize = get<&V::Size>("Size", "The number of element
 template <class V>
 inline constexpr auto kLetVectorSize = let<&V::LetSize>("Size");
 
+template <class V>
+inline constexpr auto kVectorText = method<&V::GetString>("GetString", "The elements as a text like (1;2;3).");
+template <class V>
+inline constexpr auto kValue = get<&V::Value>("Value", {"pIndex"}, "The element at an index from 1.");
+template <class V>
+inline constexpr auto kLetValue = let<&V::LetValue>("Value", {"pIndex"});
+
 // `pDefault` is the value that InsertValue takes when none is given.
+template <class V>
+constexpr auto InsertRows(auto pDefault) {
+  return rows(method<&V::InsertValue>("InsertValue", {"pAtPos", opt("pValue", pDefault)},
+                                      "Inserts an element; a position outside appends it."),
+              method<&V::AddValue>("AddValue", {"pValue"}, "Appends an element."));
+}
+
 template <class V>
 constexpr auto ElementRows(auto pDefault) {
   return rows(method<&V::SetFromArray>("SetFromArray", {byRef("InArray")}, "Takes the elements of an array."),
               method<&V::GetArray>("GetArray", "All slots of the storage, which are at least as many as elements."),
               method<&V::SetFromString>("SetFromString", {"pString"}, "Takes the elements from a text like (1;2;3)."),
-              method<&V::GetString>("GetString", "The elements as a text like (1;2;3)."),
-              let<&V::LetValue>("Value", {"pIndex"}),
-              get<&V::Value>("Value", {"pIndex"}, "The element at an index from 1."),
-              method<&V::InsertValue>("InsertValue", {"pAtPos", opt("pValue", pDefault)},
-                                      "Inserts an element; a position outside appends it."),
-              method<&V::AddValue>("AddValue", {"pValue"}, "Appends an element."));
+              kVectorText<V>, kLetValue<V>, kValue<V>, InsertRows<V>(pDefault));
 }
 
 template <class V>
@@ -103,73 +113,42 @@ inline constexpr auto members<CBoolVector> = table(kVectorType<CBoolVector>, kLe
                                                    kVectorSize<CBoolVector>, ElementRows<CBoolVector>(false),
                                                    LookUpRows<CBoolVector>(), ObjectRows<CBoolVector>());
 
-// ---- The tables.
+template <>
+inline constexpr auto members<CVector> =
+    table(get<&CVector::VarType>("VarType", "The declared value type, by which the elements are saved."),
+          let<&CVector::LetVarType>("VarType"), kVectorSize<CVector>, kLetVectorSize<CVector>, kVectorText<CVector>,
+          kValue<CVector>, kLetValue<CVector>, InsertRows<CVector>(kInvalidDouble), kAddUniqueValue<CVector>,
+          LookUpRows<CVector>(), kSort<CVector>, ObjectRows<CVector>(), kLetBlockSize<CVector>);
 
 template <>
-inline constexpr auto members<CEntryData> = table(
-    method<&CEntryData::Clear>("Clear", "Removes all columns and rows."),
-    get<&CEntryData::NrCols>("NrCols", "The number of columns; new ones have no values yet."),
-    let<&CEntryData::LetNrCols>("NrCols"),
-    get<&CEntryData::VarType>("VarType", {"pIdx"}, "The value type of a column; another one drops its values."),
-    let<&CEntryData::LetVarType>("VarType", {"pIdx"}),
-    get<&CEntryData::Col>("Col", {"pIdx"}, "A column itself; set to store an object, let to copy its contents."),
-    set<&CEntryData::SetCol>("Col", {"pIdx"}), let<&CEntryData::LetCol>("Col", {"pIdx"}),
-    method<&CEntryData::InsertCol>("InsertCol", {"pVarType", "pPos"},
-                                   "Inserts a column of a type; a position outside appends it."),
-    method<&CEntryData::AddCol>("AddCol", {"pVarType"}, "Appends a column of a type."),
-    method<&CEntryData::MoveCol>("MoveCol", {"pOldPos", "pNewPos"}, "Moves a column to another position."),
-    method<&CEntryData::DeleteCol>("DeleteCol", {"pIdx"}, "Removes a column."),
-    get<&CEntryData::NrRows>("NrRows", "The number of rows."), let<&CEntryData::LetNrRows>("NrRows"),
-    method<&CEntryData::InsertRow>("InsertRow", {"pAtPos"},
-                                   "Inserts a row of invalid values; a position outside appends it."),
-    method<&CEntryData::AddRow>("AddRow", "Appends a row of invalid values."),
-    method<&CEntryData::DeleteRow>("DeleteRow", {"pIdx"}, "Removes a row."),
-    get<&CEntryData::Value>("Value", {"pColIdx", "pRowIdx"}, "The value of a column and row, both from 1."),
-    let<&CEntryData::LetValue>("Value", {"pColIdx", "pRowIdx"}),
-    method<&CEntryData::Sort>("Sort", {"pColIdx", "pAscending"},
-                              "Sorts the rows by a column; equal ones keep their order."),
-    method<&CEntryData::CopyFromValues>("CopyFromValues", {"pSource"}, "Takes over the columns of a matrix."),
-    ObjectRows<CEntryData>());
-
-constexpr auto TableColumnRows() {
-  return rows(
-      get<&CTable::NrCols>("NrCols", "The number of columns."), let<&CTable::LetNrCols>("NrCols"),
-      get<&CTable::ColDesc>("ColDesc", {"pColIdx"},
-                            "A copy of a column's descriptor; set to store an object, let to copy its contents."),
-      set<&CTable::SetColDesc>("ColDesc", {"pColIdx"}), let<&CTable::LetColDesc>("ColDesc", {"pColIdx"}),
-      get<&CTable::ColDescRef>("ColDescRef", {"pColIdx"}, "A column's descriptor itself."),
-      method<&CTable::AddCol>("AddCol", {"pDesc"}, "Appends a column, whose descriptor is the object itself."),
-      method<&CTable::InsertCol>("InsertCol", {"pDesc", "pAtPos"},
-                                 "Inserts a column and a copy of its descriptor; a position outside appends them."),
-      method<&CTable::MoveCol>("MoveCol", {"pOldPos", "pNewPos"}, "Moves a column to another position."),
-      method<&CTable::DeleteCol>("DeleteCol", {"pAtPos"}, "Removes a column and its descriptor."),
-      method<&CTable::ColIndex>("ColIndex", {"pID"}, "The position of the column with an identifier, -1 if none has."),
-      method<&CTable::ColRef>("ColRef", {"pIndex"}, "The values of a column, as the vector itself."));
-}
-
-constexpr auto TableRowRows() {
-  return rows(get<&CTable::NrRows>("NrRows", "The number of rows."), let<&CTable::LetNrRows>("NrRows"),
-              method<&CTable::AddRow>("AddRow", "Appends a row of invalid values."),
-              method<&CTable::InsertRow>("InsertRow", {"pAtPos"},
-                                         "Inserts a row of invalid values; a position outside appends it."),
-              method<&CTable::DeleteRow>("DeleteRow", {"pAtPos"}, "Removes a row."),
-              method<&CTable::Row>("Row", {"pRowIdx"}, "A row with the descriptors of its values, as a copy."),
-              get<&CTable::DescsRef>("DescsRef", "The descriptors of the columns, as the list itself."),
-              get<&CTable::DataRef>("DataRef", "The values of all columns, as the object itself."),
-              get<&CTable::Value>("Value", {"pColIdx", "pRowIdx"}, "The value of a column and row, both from 1."),
-              let<&CTable::LetValue>("Value", {"pColIdx", "pRowIdx"}));
-}
+inline constexpr auto members<CObjVector> = table(
+    get<&CObjVector::Size>("Size", "The number of objects."), let<&CObjVector::LetSize>("Size"),
+    get<&CObjVector::Ref>("Ref", {"pIndex"}, "The object at an index from 1, itself."),
+    let<&CObjVector::LetRef>("Ref", {"pIndex"}),
+    get<&CObjVector::Copy>("Copy", {"pIndex"}, "A copy of the object at an index."),
+    get<&CObjVector::Key>("Key", {"pIndex"}, "The key at an index."), let<&CObjVector::LetKey>("Key", {"pIndex"}),
+    method<&CObjVector::ReplaceObject>("ReplaceObject", {"pIndex", "pKey", "pValue"},
+                                       "Stores a key and a copy of an object at an index."),
+    method<&CObjVector::AddObject>("AddObject", {"pKey", "pValue"}, "Appends a key and a copy of an object."),
+    method<&CObjVector::DeleteObject>("DeleteObject", {"pIndex"}, "Removes a key and its object."),
+    method<&CObjVector::GetUniqueKey>(
+        "GetUniqueKey", {"pKey"}, "A key with the first number behind it that no object has, if it has to have one."),
+    method<&CObjVector::Index>("Index", {"pKey"}, "The first index with a key, -1 if there is none."),
+    method<&CObjVector::KeyVec>("KeyVec", "All keys in order."), CopyRows<CObjVector>(), SaveRows<CObjVector>(),
+    kLetBlockSize<CObjVector>);
 
 template <>
-inline constexpr auto members<CTable> = table(
-    get<&CTable::ID>("ID", "The identifier."), let<&CTable::LetID>("ID"),
-    method<&CTable::Clear>("Clear", "Removes all columns and rows; the identifier stays."), TableColumnRows(),
-    TableRowRows(), method<&CTable::InverseRowOrder>("InverseRowOrder", "Does nothing."),
-    method<&CTable::Sort>("Sort", {"pCol", opt("pAscending", true)},
-                          "Sorts the rows by a column; equal ones keep their order."),
-    method<&CTable::GetString>("GetString", "A line of identifiers, then the rows, as users see their values."),
-    method<&CTable::SetupFrom>("SetupFrom", {"pDesc"}, "Takes copies of descriptors and has no rows afterwards."),
-    method<&CTable::CopyFromInfo>("CopyFromInfo", {"pInfo"}, "Takes the values of a record as its one row."),
-    ObjectRows<CTable>());
+inline constexpr auto members<CDblVectors> = table(
+    get<&CDblVectors::Size>("Size", "The number of vectors."), let<&CDblVectors::LetSize>("Size"),
+    get<&CDblVectors::Vector>("Vector", {"pIdx"}, "A copy of the vector at an index; set stores a vector itself."),
+    let<&CDblVectors::LetVector>("Vector", {"pIdx"}), set<&CDblVectors::SetVector>("Vector", {"pIdx"}),
+    method<&CDblVectors::InsertVector>("InsertVector", {"pVector", "pPos"},
+                                       "Inserts a copy of a vector; a position outside appends it."),
+    method<&CDblVectors::AddVector>("AddVector", {"pVector"}, "Appends a copy of a vector."),
+    method<&CDblVectors::DeleteVector>("DeleteVector", {"pIdx"}, "Removes a vector."),
+    method<&CDblVectors::VectorRef>("VectorRef", {"pIdx"}, "The vector at an index, itself."), CopyRows<CDblVectors>(),
+    kIsEqual<CDblVectors>,
+    let<&CDblVectors::LetBlockSize>("BlockSize", "The number of slots by which the storage of every vector grows."),
+    SaveRows<CDblVectors>());
 
 }  // namespace qzbase::automation
