@@ -1,6 +1,4 @@
-// A typed vector that grows in blocks, has an invalid value and sorts: CDblVector, CLngVector and CStrVector.
-//
-// The invalid value marks a missing element. `Size` counts it, `NrValid` does not.
+// A vector that grows in blocks and sorts: every one but CBoolVector. `Base` is its ElementVector or TypedVector.
 #pragma once
 
 #include <cstdint>
@@ -10,20 +8,14 @@
 
 namespace qzbase {
 
-template <class Self, class Element>
-class BlockVector : public TypedVector<Self, Element> {
-  using Base = TypedVector<Self, Element>;
-
+template <class Base>
+class BlockVector : public Base {
  public:
-  using Base::Size;
-  using Base::Value;
-  using typename Base::Argument;
-
   // The number of slots by which storage grows, 16 at first; storage follows at once. Error 11 for 0, 9 or
   // 6 below.
   void LetBlockSize(std::int32_t pBlockSize) { this->storage_.LetBlockSize(pBlockSize); }
 
-  void AddUniqueValue(Argument pValue) {
+  void AddUniqueValue(typename Base::Argument pValue) {
     if (this->Index(pValue) == -1) this->AddValue(pValue);
   }
 
@@ -31,8 +23,6 @@ class BlockVector : public TypedVector<Self, Element> {
   void Sort(bool pAscending = true) {
     runtime::WithMemory([&] { SortElements(this->storage_.Elements(), pAscending); });
   }
-
-  std::int32_t NrValid() const;
 };
 
 }  // namespace qzbase

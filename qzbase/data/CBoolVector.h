@@ -8,6 +8,7 @@ namespace qzbase {
 
 class CBoolVector final : public TypedVector<CBoolVector, BooleanElement> {};
 
+extern template class ElementVector<CBoolVector, BooleanElement>;
 extern template class TypedVector<CBoolVector, BooleanElement>;
 
 }  // namespace qzbase

@@ -7,8 +7,8 @@ namespace qzbase {
 
 class CDblVector final : public NumberVector<CDblVector, DoubleElement> {};
 
+extern template class ElementVector<CDblVector, DoubleElement>;
 extern template class TypedVector<CDblVector, DoubleElement>;
-extern template class BlockVector<CDblVector, DoubleElement>;
 extern template class NumberVector<CDblVector, DoubleElement>;
 
 }  // namespace qzbase

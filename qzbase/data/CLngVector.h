@@ -8,8 +8,8 @@ namespace qzbase {
 
 class CLngVector final : public NumberVector<CLngVector, LongElement> {};
 
+extern template class ElementVector<CLngVector, LongElement>;
 extern template class TypedVector<CLngVector, LongElement>;
-extern template class BlockVector<CLngVector, LongElement>;
 extern template class NumberVector<CLngVector, LongElement>;
 
 }  // namespace qzbase

@@ -11,8 +11,8 @@
 namespace qzbase {
 
 template <class Self, class Element>
-class NumberVector : public BlockVector<Self, Element> {
-  using Base = BlockVector<Self, Element>;
+class NumberVector : public BlockVector<TypedVector<Self, Element>> {
+  using Base = BlockVector<TypedVector<Self, Element>>;
 
  public:
   using Base::Size;

@@ -13,8 +13,6 @@
 namespace qzbase {
 namespace {
 
-constexpr std::u16string_view kOpeningTag = u"VE#1";
-constexpr std::u16string_view kClosingTag = u"\\VE";
 constexpr char16_t kDelimiter = u';';
 
 // The text without its first and last character where the first one is `pOpening`.
@@ -71,68 +69,13 @@ void TypedVector<Self, Element>::SetFromString(std::u16string_view pString) {
 }
 
 template <class Self, class Element>
-std::u16string TypedVector<Self, Element>::GetString() const {
-  return runtime::WithMemory([this] {
-    const runtime::LocaleRules& rules = runtime::ThreadLocale();
-    std::u16string text = u"(";
-    for (std::int32_t i = 0; i < Size(); ++i) {
-      if (i > 0) text += kDelimiter;
-      Element::AppendText(text, Value(i + 1), rules);
-    }
-    text += u')';
-    return text;
-  });
+void TypedVector<Self, Element>::SaveElements(CBuffer& pBuffer) const {
+  for (std::int32_t i = 0; i < Size(); ++i) (pBuffer.*Element::kAdd)(Value(i + 1));
 }
 
 template <class Self, class Element>
-std::int32_t TypedVector<Self, Element>::Index(Argument pValue, std::int32_t pStartIndex) const {
-  const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = std::max(pStartIndex, 1) - 1; i < Size(); ++i)
-    if (Element::Equal(Value(i + 1), pValue, rules)) return i + 1;
-  return -1;
-}
-
-template <class Self, class Element>
-void TypedVector<Self, Element>::CopyFrom(const Self& pSource) {
-  LetSize(pSource.Size());
-  storage_.CopyElements(pSource.storage_);
-}
-
-template <class Self, class Element>
-runtime::Ref<Self> TypedVector<Self, Element>::GetCopy() const {
-  auto copy = runtime::New<Self>();
-  copy->CopyFrom(static_cast<const Self&>(*this));
-  return copy;
-}
-
-template <class Self, class Element>
-bool TypedVector<Self, Element>::IsEqual(const Self& pCompare) const {
-  if (Size() != pCompare.Size()) return false;
-  const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = 0; i < Size(); ++i)
-    if (!Element::Equal(Value(i + 1), pCompare.Value(i + 1), rules)) return false;
-  return true;
-}
-
-template <class Self, class Element>
-void TypedVector<Self, Element>::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
-  if (pBuffer == nullptr) return;
-  if (!pAppend) pBuffer->Clear();
-  pBuffer->AddTag(kOpeningTag);
-  pBuffer->AddLong(Size());
-  for (std::int32_t i = 0; i < Size(); ++i) (pBuffer->*Element::kAdd)(Value(i + 1));
-  pBuffer->AddTag(kClosingTag);
-}
-
-// The tags are read and not checked.
-template <class Self, class Element>
-void TypedVector<Self, Element>::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
-  if (pBuffer == nullptr) return;
-  if (!pAppend) pBuffer->ResetPos();
-  pBuffer->NextTag();
-  LetSize(pBuffer->NextCount());
-  for (std::int32_t i = 0; i < Size(); ++i) storage_.Store(i + 1, (pBuffer->*Element::kNext)());
-  pBuffer->NextTag();
+void TypedVector<Self, Element>::LoadElements(CBuffer& pBuffer) {
+  for (std::int32_t i = 0; i < Size(); ++i) storage_.Store(i + 1, (pBuffer.*Element::kNext)());
 }
 
 template class TypedVector<CDblVector, DoubleElement>;

@@ -1,87 +1,58 @@
 // A one-based, growable list of values of one scalar type: CDblVector, CLngVector, CStrVector and CBoolVector.
 //
-// Here is what all four have. What grows in blocks, has an invalid value and sorts is a BlockVector; what can be added
-// up and measured is a NumberVector.
+// It is an ElementVector that reads arrays and texts. What grows in blocks and sorts is a BlockVector; what can be
+// added up and measured is a NumberVector.
 //
-//   CDblVector vector;                  // (): 16 slots, no elements
-//   vector.SetFromString(u"(3;1;2)");
-//   vector.Sort();                      // (1;2;3)
-//   vector.InsertValue(1, 0.5);         // (0.5;1;2;3)
-//   vector.Index(2);                    // 3
+// The invalid value marks a missing element. `Size` counts it, `NrValid` does not. Booleans have none.
 //
-// `Size` counts the elements; the storage behind them has slots in blocks (BlockStorage.h). Indices are checked against
-// the slots and not against the size: a slot behind the elements can be read and written, and becomes an element with
-// what it holds when the size grows over it. Outside the slots error 9 (subscript out of range) is raised.
-//
-// Record: tag "VE#1", the size as a long, each element in the record of its type, tag "\VE".
-//
-// Raises error 6 where a size leaves 32 bits or the storage has more than 32,767 blocks, 7 where memory does not
-// suffice, and what the buffer raises. What was reached before an error stays.
+// Record: that of ElementVector.h, each element in the record of its type.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
-#include <string>
 #include <string_view>
-#include <utility>
 
-#include "qzbase/data/BlockStorage.h"
-#include "qzbase/data/VectorElements.h"
+#include "qzbase/data/ElementVector.h"
 #include "qzbase/runtime/Array.h"
-#include "qzbase/runtime/Object.h"
 
 namespace qzbase {
 
-// `Self` is the vector's class, `Element` its row of traits.
-template <class Self, class Element>
-class TypedVector : public runtime::Object {
+template <class Self, class ElementTraits>
+class TypedVector : public ElementVector<Self, ElementTraits> {
+  using Base = ElementVector<Self, ElementTraits>;
+
  public:
-  using Type = typename Element::Type;
-  using Argument = typename Element::Argument;
-  using Result = typename Element::Result;
+  using Element = ElementTraits;
+  using Base::LetSize;
+  using Base::Size;
+  using Base::Value;
+  using typename Base::Type;
 
   QZVarType VarType() const noexcept requires(Element::kVarType != EVTInvalid) { return Element::kVarType; }
-
-  std::int32_t Size() const noexcept { return storage_.Size(); }
-  void LetSize(std::int32_t pSize) { storage_.LetSize(pSize); }
 
   // Any lower bound will do.
   void SetFromArray(const runtime::Array<Type>& InArray);
   // All slots, from 1 to the capacity.
   runtime::Array<Type> GetArray() const { return {1, storage_.AllSlots()}; }
 
-  // "(1;2;3)", in the user's locale. Parentheses, and braces within them, may be missing when it is read; a piece that
-  // says no value leaves its slot as it was. Never raises an error.
+  // Reads what `GetString` gives. Parentheses, and braces within them, may be missing; a piece that says no value
+  // leaves its slot as it was. Never raises an error.
   void SetFromString(std::u16string_view pString);
-  std::u16string GetString() const;
 
-  Result Value(std::int32_t pIndex) const { return storage_.Slot(pIndex); }
-  void LetValue(std::int32_t pIndex, Argument pValue) { storage_.Store(pIndex, Type(pValue)); }
-
-  // A position below 1 or past the end appends.
-  void InsertValue(std::int32_t pAtPos, Argument pValue = Element::kDefault) {
-    Type value(pValue);  // the argument may refer to a slot
-    LetSize(runtime::CheckedNarrow<std::int32_t>(std::int64_t{Size()} + 1));
-    storage_.Insert(pAtPos, std::move(value));
+  std::int32_t NrValid() const requires(!std::same_as<Type, bool>) {
+    const runtime::LocaleRules& rules = runtime::ThreadLocale();
+    std::int32_t count = 0;
+    for (std::int32_t i = 0; i < Size(); ++i)
+      if (!Element::Equal(Value(i + 1), Element::kDefault, rules)) ++count;
+    return count;
   }
-  void AddValue(Argument pValue) { InsertValue(0, pValue); }
-
-  // The index is not checked against the size: one past it drops the last element.
-  void DeleteValue(std::int32_t pIndex) { storage_.Delete(pIndex); }
-
-  // The first element from `pStartIndex` on that equals the value, -1 when there is none.
-  std::int32_t Index(Argument pValue, std::int32_t pStartIndex = 1) const;
-
-  // The block size is each vector's own: not copied, not compared, not saved.
-  void CopyFrom(const Self& pSource);
-  runtime::Ref<Self> GetCopy() const;
-  bool IsEqual(const Self& pCompare) const;
-
-  // Without a buffer both do nothing.
-  void SaveToBuffer(CBuffer* pBuffer, bool pAppend = false) const;
-  void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
 
  protected:
-  BlockStorage<Type> storage_{Element::kBlockSize};
+  using Base::storage_;
+
+ private:
+  void SaveElements(CBuffer& pBuffer) const final;
+  void LoadElements(CBuffer& pBuffer) final;
 };
 
 }  // namespace qzbase

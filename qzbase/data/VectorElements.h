@@ -1,10 +1,10 @@
-// The element types of the typed vectors, one row of traits each.
+// The element types of the vectors, one row of traits each.
 //
-//                   double     long        text           boolean
-//   default value   invalid    invalid     "~"            false     of InsertValue; skipped by NrValid and Sum
-//   reported type   EVTDouble  EVTDouble   none           EVTBoolean
-//   blocks          16         16          16             1, fixed
-//   equality        exact      exact       text           exact
+//                   double     long        text    boolean     variant
+//   default value   invalid    invalid     "~"     false       invalid double   of InsertValue; skipped by NrValid and
+//   Sum reported type   EVTDouble  EVTDouble   none    EVTBoolean  its own blocks          16         16          16 1,
+//   fixed    16, cut to the number of elements by InsertValue equality        exact      exact       text    exact that
+//   of variants, texts exact
 #pragma once
 
 #include <cmath>
@@ -17,6 +17,7 @@
 #include "qzbase/core/QZVarType.h"
 #include "qzbase/persist/CBuffer.h"
 #include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/Compare.h"
 #include "qzbase/runtime/Convert.h"
 #include "qzbase/runtime/NumberReader.h"
 #include "qzbase/runtime/NumberText.h"
@@ -26,9 +27,12 @@ namespace qzbase {
 
 inline constexpr std::int32_t kDefaultBlockSize = 16;
 
-// What two element types have in common unless their rows say otherwise.
+// What element types have in common unless their rows say otherwise.
+struct AnyElement {
+  static constexpr bool kTrimmedByInsert = false;
+};
 template <class T>
-struct PlainElement {
+struct PlainElement : AnyElement {
   using Type = T;
   using Argument = T;  // as a vector takes it
   using Result = T;    // as a vector gives it
@@ -79,7 +83,7 @@ struct LongElement : NumberElement<std::int32_t> {
   }
 };
 
-struct TextElement {
+struct TextElement : AnyElement {
   using Type = std::u16string;
   using Argument = std::u16string_view;
   using Result = const std::u16string&;  // good until the vector changes
@@ -114,6 +118,23 @@ struct BooleanElement : PlainElement<bool> {
   }
   static bool Read(std::u16string_view pText, bool& pValue, const runtime::LocaleRules& pRules) {
     return runtime::ReadBoolean(pText, pValue, pRules) == runtime::ReadResult::Read;
+  }
+};
+
+struct VariantElement : AnyElement {
+  using Type = runtime::Variant;
+  using Argument = const runtime::Variant&;
+  using Result = const runtime::Variant&;  // good until the vector changes
+  static constexpr std::int32_t kBlockSize = kDefaultBlockSize;
+  static constexpr bool kTrimmedByInsert = true;
+  static constexpr double kDefault = kInvalidDouble;
+
+  // Both raise error 13 for objects and arrays; the text of null raises 94.
+  static bool Equal(const runtime::Variant& pLeft, const runtime::Variant& pRight, const runtime::LocaleRules& pRules) {
+    return runtime::CompareExact(pLeft, pRight, pRules) == runtime::Order::Equal;
+  }
+  static void AppendText(std::u16string& pText, const runtime::Variant& pValue, const runtime::LocaleRules& pRules) {
+    pText += runtime::ToText(pValue, pRules);
   }
 };
 

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <functional>
-#include <limits>
 #include <vector>
 
 #include "qzbase/runtime/AutomationError.h"
@@ -12,6 +11,15 @@
 #include "qzbase/runtime/NumberText.h"
 
 namespace qzbase {
+
+using runtime::CaseRule;
+using runtime::LocaleRules;
+using runtime::Order;
+using runtime::Raise;
+using runtime::RuntimeError;
+using runtime::Variant;
+using runtime::VariantKind;
+
 namespace {
 
 template <class T>
@@ -22,31 +30,21 @@ void SortStable(std::span<T> pElements, bool pAscending) {
     std::stable_sort(pElements.begin(), pElements.end(), std::greater<T>());
 }
 
-struct Keyed {
-  double key;
-  double value;
-
-  bool operator<(const Keyed& pOther) const { return key < pOther.key; }
-  bool operator>(const Keyed& pOther) const { return key > pOther.key; }
-};
-
-// A not-a-number goes behind everything that is before it, and only what would go in front of one of those goes in
-// front of it later. It thus sorts as if it were the greatest (descending: the smallest) number before it.
 void SortWithNaN(std::span<double> pElements, bool pAscending) {
-  std::vector<Keyed> keyed;
-  keyed.reserve(pElements.size());
-  double last = pAscending ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
-  for (const double value : pElements) {
-    if (pAscending ? value > last : value < last) last = value;
-    keyed.push_back({std::isnan(value) ? last : value, value});
-  }
-  SortStable(std::span(keyed), pAscending);
-  std::transform(keyed.begin(), keyed.end(), pElements.begin(), [](const Keyed& entry) { return entry.value; });
+  Rearrange(pElements, SortedOrder(static_cast<std::int32_t>(pElements.size()), pAscending,
+                                   [&](std::int32_t pFirst, std::int32_t pSecond) {
+                                     return runtime::CompareNumbers(pElements[static_cast<std::size_t>(pFirst)],
+                                                                    pElements[static_cast<std::size_t>(pSecond)]);
+                                   }));
 }
 
 void SortAndRewrite(std::span<std::u16string> pElements, std::vector<std::int32_t>& pKeys, bool pAscending) {
   SortStable(std::span(pKeys), pAscending);
   for (std::size_t i = 0; i < pKeys.size(); ++i) pElements[i] = runtime::NumberText(pKeys[i]);
+}
+
+bool HasNoOrderAtAll(const Variant& pValue) {
+  return pValue.Kind() == VariantKind::Object || pValue.Kind() == VariantKind::Array;
 }
 
 }  // namespace
@@ -72,6 +70,25 @@ void SortElements(std::span<std::u16string> pElements, bool pAscending) {
     throw;
   }
   SortAndRewrite(pElements, keys, pAscending);
+}
+
+Order CompareInSort(const Variant& pLeft, const Variant& pRight, CaseRule pCase, const LocaleRules& pRules) {
+  if (pLeft.IsEmpty() && pRight.If<std::u16string>()) return Order::Less;
+  if (pLeft.If<std::u16string>() && pRight.IsEmpty()) return Order::Greater;
+  return pCase == CaseRule::CaseSensitive ? runtime::CompareExact(pLeft, pRight, pRules)
+                                          : runtime::Compare(pLeft, pRight, pCase, pRules);
+}
+
+void SortElements(std::span<Variant> pElements, bool pAscending) {
+  const LocaleRules& rules = runtime::ThreadLocale();
+  const auto stranger = std::find_if(pElements.begin(), pElements.end(), HasNoOrderAtAll);
+  const auto count = static_cast<std::int32_t>(stranger - pElements.begin());
+  const auto order = SortedOrder(count, pAscending, [&](std::int32_t pFirst, std::int32_t pSecond) {
+    return CompareInSort(pElements[static_cast<std::size_t>(pFirst)], pElements[static_cast<std::size_t>(pSecond)],
+                         CaseRule::CaseSensitive, rules);
+  });
+  Rearrange(pElements, order);
+  if (stranger != pElements.end() && pElements.size() > 1) Raise(RuntimeError::TypeMismatch);
 }
 
 }  // namespace qzbase

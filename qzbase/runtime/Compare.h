@@ -16,8 +16,14 @@ using os::CaseRule;
 
 enum class Order : std::uint8_t { Less, Equal, Greater, Unknown };
 
-// Raises error 13 for objects and arrays.
+// Not-a-number gives no order, like null.
+Order CompareNumbers(double pLeft, double pRight) noexcept;
+
+// Both raise error 13 for objects and arrays.
 Order Compare(const Variant& pLeft, const Variant& pRight, CaseRule pCase = CaseRule::CaseSensitive,
               const LocaleRules& pRules = ThreadLocale());
+
+// The same with texts compared exactly, by the numbers of their characters: "B" < "a".
+Order CompareExact(const Variant& pLeft, const Variant& pRight, const LocaleRules& pRules = ThreadLocale());
 
 }  // namespace qzbase::runtime

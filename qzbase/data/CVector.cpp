@@ -1,0 +1,88 @@
+#include "qzbase/data/CVector.h"
+
+namespace qzbase {
+namespace {
+
+using runtime::Variant;
+using Slots = BlockStorage<Variant>;
+
+// How all elements are written and read by one declared type.
+struct RecordRow {
+  QZVarType type;
+  void (*save)(CBuffer&, const Slots&);
+  void (*load)(CBuffer&, Slots&);
+};
+
+template <class T, auto kAdd, T (*kConvert)(const Variant&, const runtime::LocaleRules&)>
+void SaveAs(CBuffer& pBuffer, const Slots& pSlots) {
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  for (std::int32_t i = 0; i < pSlots.Size(); ++i) {
+    const Variant& value = pSlots.Slot(i + 1);
+    if (const T* same = value.If<T>())
+      (pBuffer.*kAdd)(*same);
+    else
+      (pBuffer.*kAdd)(kConvert(value, rules));
+  }
+}
+
+template <auto kNext>
+void LoadAs(CBuffer& pBuffer, Slots& pSlots) {
+  for (std::int32_t i = 0; i < pSlots.Size(); ++i) pSlots.Store(i + 1, Variant((pBuffer.*kNext)()));
+}
+
+void SaveAny(CBuffer& pBuffer, const Slots& pSlots) {
+  for (std::int32_t i = 0; i < pSlots.Size(); ++i) pBuffer.AddObject(pSlots.Slot(i + 1));
+}
+
+void LoadAny(CBuffer& pBuffer, Slots& pSlots) {
+  for (std::int32_t i = 0; i < pSlots.Size(); ++i) pSlots.Store(i + 1, pBuffer.NextObject());
+}
+
+void SaveNothing(CBuffer&, const Slots&) {}
+void LoadNothing(CBuffer&, Slots&) {}
+
+constexpr RecordRow kRecords[] = {
+    {EVTInvalid, SaveAny, LoadAny},
+    {EVTBoolean, SaveAs<bool, &CBuffer::AddBoolean, runtime::ToBoolean>, LoadAs<&CBuffer::NextBoolean>},
+    {EVTDouble, SaveAs<double, &CBuffer::AddDouble, runtime::ToDouble>, LoadAs<&CBuffer::NextDouble>},
+    {EVTLong, SaveAs<std::int32_t, &CBuffer::AddLong, runtime::ToLong>, LoadAs<&CBuffer::NextLong>},
+    {EVTString, SaveAs<std::u16string, &CBuffer::AddString, runtime::ToText>, LoadAs<&CBuffer::NextString>},
+    {EVTDate, SaveAs<runtime::Date, &CBuffer::AddDate, runtime::ToDate>, LoadAs<&CBuffer::NextDate>},
+    {EVTColor, SaveAs<std::int32_t, &CBuffer::AddColor, runtime::ToLong>, LoadAs<&CBuffer::NextLong>},
+    {EVTObject, SaveNothing, LoadNothing},
+    {EVTEnum, SaveAs<std::int32_t, &CBuffer::AddLong, runtime::ToLong>, LoadAs<&CBuffer::NextLong>},
+};
+constexpr RecordRow kNoRecord{EVTObject, SaveNothing, LoadNothing};
+
+const RecordRow& RecordOf(QZVarType pVarType) noexcept {
+  for (const RecordRow& row : kRecords)
+    if (row.type == pVarType) return row;
+  return kNoRecord;
+}
+
+}  // namespace
+
+void CVector::CopyFrom(const CVector& pSource) {
+  varType_ = pSource.varType_;
+  Base::CopyFrom(pSource);
+}
+
+bool CVector::IsEqual(const CVector& pCompare) const {
+  return varType_ == pCompare.varType_ && Base::IsEqual(pCompare);
+}
+
+void CVector::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
+  if (pBuffer != nullptr) return Base::SaveToBuffer(pBuffer, pAppend);
+  CBuffer dropped;
+  Base::SaveToBuffer(&dropped, pAppend);
+}
+
+void CVector::SaveElements(CBuffer& pBuffer) const {
+  RecordOf(varType_).save(pBuffer, storage_);
+}
+
+void CVector::LoadElements(CBuffer& pBuffer) {
+  RecordOf(varType_).load(pBuffer, storage_);
+}
+
+}  // namespace qzbase
