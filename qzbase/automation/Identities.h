@@ -177,7 +177,7 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings>;
 using PersistClasses = TypeList<CBuffer>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
+using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CDblMatrix, CMatrix>;
 
 using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DataClasses>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;

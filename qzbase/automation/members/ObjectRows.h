@@ -6,8 +6,8 @@
 namespace qzbase::automation {
 
 template <class C>
-constexpr auto CopyRows() {
-  return rows(method<&C::CopyFrom>("CopyFrom", {"pSource"}, "Takes over the contents of another object."),
+constexpr auto CopyRows(const char* pSource = "pSource") {
+  return rows(method<&C::CopyFrom>("CopyFrom", {pSource}, "Takes over the contents of another object."),
               method<&C::GetCopy>("GetCopy", "A new object with the same contents."));
 }
 
@@ -21,9 +21,9 @@ constexpr auto SaveRows() {
 
 // What they all can do, but for their texts.
 template <class C>
-constexpr auto ObjectRows() {
-  return rows(CopyRows<C>(), method<&C::IsEqual>("IsEqual", {"pCompare"}, "Whether two objects have equal contents."),
-              SaveRows<C>());
+constexpr auto ObjectRows(const char* pSource = "pSource", const char* pCompare = "pCompare") {
+  return rows(CopyRows<C>(pSource),
+              method<&C::IsEqual>("IsEqual", {pCompare}, "Whether two objects have equal contents."), SaveRows<C>());
 }
 
 }  // namespace qzbase::automation
