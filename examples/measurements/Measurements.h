@@ -5,7 +5,7 @@
 #include <variant>
 #include <vector>
 
-#include "examples/measurements/Csv.h"
+#include "examples/support/Csv.h"
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CStrVector.h"
 #include "qzbase/persist/CBuffer.h"

@@ -2,18 +2,15 @@
 
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/TextCompare.h"
+#include "qzbase/text/EnumRange.h"
 #include "qzbase/text/ModString.h"
+#include "qzbase/text/RangeString.h"
 #include "qzbase/text/WordReplace.h"
 
 namespace qzbase {
 namespace {
 
 constexpr std::size_t kNotFound = std::u16string_view::npos;
-
-std::u16string_view TrimBlanks(std::u16string_view pText) {
-  const std::size_t first = pText.find_first_not_of(u' ');
-  return first == kNotFound ? std::u16string_view() : pText.substr(first, pText.find_last_not_of(u' ') - first + 1);
-}
 
 // How many characters in front of the trailing digits; a digit is what sorts from "0" to "9".
 std::size_t RootLength(std::u16string_view pName) {
@@ -29,7 +26,7 @@ std::size_t RootLength(std::u16string_view pName) {
 
 std::u16string GCStrings::StripUnit(std::u16string_view VarName) {
   const std::size_t bracket = runtime::FindText(VarName, u"[");
-  return std::u16string(bracket == kNotFound ? VarName : TrimBlanks(VarName.substr(0, bracket)));
+  return std::u16string(bracket == kNotFound ? VarName : ModString::TrimBlanks(VarName.substr(0, bracket)));
 }
 
 std::u16string GCStrings::FormatUnit(std::u16string_view Unit) {
@@ -91,6 +88,62 @@ std::u16string GCStrings::GetChar(std::u16string_view InVal, std::int32_t Pos) {
   if (Pos < 1) return {};
   const auto index = static_cast<std::size_t>(Pos) - 1;
   return index < InVal.size() ? std::u16string(1, InVal[index]) : std::u16string();
+}
+
+void GCStrings::InitEnumRange(std::u16string& pRange) {
+  ModString::InitEnumRange(pRange);
+}
+
+void GCStrings::FinalizeEnumRange(std::u16string& pRange) {
+  ModString::FinalizeEnumRange(pRange);
+}
+
+std::u16string GCStrings::MakeEnumRange(const runtime::Array<std::u16string>& Item, std::u16string_view FirstItem) {
+  return ModString::MakeEnumRange(Item, FirstItem);
+}
+
+std::int32_t GCStrings::ParseEnumRange(std::u16string_view Range, runtime::Array<std::u16string>& Item) {
+  return ModString::ParseEnumRange(Range, Item);
+}
+
+std::int32_t GCStrings::EnumOrd(std::u16string_view Item, std::u16string_view Range) {
+  return ModString::EnumOrd(Item, Range);
+}
+
+std::u16string GCStrings::EnumVal(std::int32_t ItemNr, std::u16string_view Range) {
+  return ModString::EnumVal(ItemNr, Range);
+}
+
+std::u16string GCStrings::MakeValueList(const runtime::Array<double>& Value) {
+  return ModString::MakeValueList(Value);
+}
+
+std::int32_t GCStrings::ParseValueList(std::u16string_view List, runtime::Array<double>& Value) {
+  return ModString::ParseValueList(List, Value);
+}
+
+bool GCStrings::IsMember(std::u16string_view Value, std::u16string_view Range) {
+  return ModString::IsMember(Value, Range);
+}
+
+bool GCStrings::IsList(std::u16string_view Range) {
+  return ModString::IsList(Range);
+}
+
+bool GCStrings::IsCombo(std::u16string_view Range) {
+  return ModString::IsCombo(Range);
+}
+
+std::int32_t GCStrings::CheckRangeStringValid(std::u16string_view Range) {
+  return ModString::CheckRangeStringValid(Range);
+}
+
+std::u16string GCStrings::HumanReadable(std::u16string_view Range) {
+  return ModString::HumanReadable(Range);
+}
+
+bool GCStrings::IsInRange(double Value, std::u16string_view Range, std::u16string_view Step) {
+  return ModString::IsInRange(Value, Range, Step);
 }
 
 }  // namespace qzbase

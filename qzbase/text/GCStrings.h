@@ -1,11 +1,14 @@
-// Tokens, lines, words, units and name indices.
+// Tokens, lines, words, units and name indices; range strings and enumerations.
 //
 //   StripUnit(u"Temperature [degC]")     "Temperature"
 //   GetNameIndex(u"Channel12")           "12"
 //   StrReplace(u"aaa", u"a", u"aa")      "aaaaaa"
+//   EnumOrd(u"b", u"{a;b;c}")            2
+//   IsInRange(0.3, u"[0;1]", u"0.1")     true
 //
-// Positions count characters from 1. Nothing here raises, but for `GetNextLine`. Searches are exact in `ParseString`,
-// `GetNextToken`, `StripFirstToken` and `StrReplace`, and by text comparison (the locale's, ignoring case) elsewhere.
+// Positions count characters and items from 1. Texts raise nothing, but for `GetNextLine` and numbers too large.
+// Searches are exact in `ParseString`, `GetNextToken`, `StripFirstToken`, `StrReplace` and `EnumOrd`, and by text
+// comparison (the locale's, ignoring case) elsewhere.
 #pragma once
 
 #include <cstdint>
@@ -52,6 +55,24 @@ class GCStrings : public runtime::Object {
 
   // The character at a position, or nothing where there is none.
   static std::u16string GetChar(std::u16string_view InVal, std::int32_t Pos);
+
+  // See EnumRange.h: enumerations and lists of numbers, made, read and asked.
+  static void InitEnumRange(std::u16string& pRange);
+  static void FinalizeEnumRange(std::u16string& pRange);
+  static std::u16string MakeEnumRange(const runtime::Array<std::u16string>& Item, std::u16string_view FirstItem = {});
+  static std::int32_t ParseEnumRange(std::u16string_view Range, runtime::Array<std::u16string>& Item);
+  static std::int32_t EnumOrd(std::u16string_view Item, std::u16string_view Range);
+  static std::u16string EnumVal(std::int32_t ItemNr, std::u16string_view Range);
+  static std::u16string MakeValueList(const runtime::Array<double>& Value);
+  static std::int32_t ParseValueList(std::u16string_view List, runtime::Array<double>& Value);
+  static bool IsMember(std::u16string_view Value, std::u16string_view Range);
+  static bool IsList(std::u16string_view Range);
+  static bool IsCombo(std::u16string_view Range);
+
+  // See RangeString.h: range strings tested and shown; a number tested against a range.
+  static std::int32_t CheckRangeStringValid(std::u16string_view Range);
+  static std::u16string HumanReadable(std::u16string_view Range);
+  static bool IsInRange(double Value, std::u16string_view Range, std::u16string_view Step);
 };
 
 }  // namespace qzbase

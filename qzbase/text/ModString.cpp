@@ -47,6 +47,11 @@ std::u16string_view TakeToken(std::u16string_view& pSource, std::u16string_view 
   return token;
 }
 
+std::u16string_view TrimBlanks(std::u16string_view pText) {
+  const std::size_t first = pText.find_first_not_of(u' ');
+  return first == kNotFound ? std::u16string_view() : pText.substr(first, pText.find_last_not_of(u' ') - first + 1);
+}
+
 std::u16string ReplaceAll(std::u16string_view pSource, std::u16string_view pOld, std::u16string_view pNew) {
   if (pOld.empty() || pNew == pOld) return std::u16string(pSource);
 

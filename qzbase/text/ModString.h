@@ -1,4 +1,4 @@
-// Cutting and replacing by exact comparison: the list splitter, the token taker and replace-all.
+// Cutting and replacing by exact comparison: the list splitter, the token taker, replace-all and the trimmer.
 //
 //   SplitList(u"a;;b", u";", items)            3, items 1..3 are "a", "", "b"
 //   TakeToken(source, u";")                    "x", and "x;y;z" becomes "y;z"
@@ -30,6 +30,9 @@ std::u16string TakeToken(std::u16string& pSource, std::u16string_view pDelim);
 
 // The same on a view, for walking through a long text without copying what is left.
 std::u16string_view TakeToken(std::u16string_view& pSource, std::u16string_view pDelim);
+
+// The text without the blanks at both ends: plain blanks only.
+std::u16string_view TrimBlanks(std::u16string_view pText);
 
 // Replaces every occurrence, from left to right. An empty `pOld` occurs nowhere.
 std::u16string ReplaceAll(std::u16string_view pSource, std::u16string_view pOld, std::u16string_view pNew);

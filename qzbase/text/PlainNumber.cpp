@@ -1,7 +1,5 @@
 #include "qzbase/text/PlainNumber.h"
 
-#include <algorithm>
-
 #include "qzbase/runtime/NumberReader.h"
 
 namespace qzbase::ModConvert {

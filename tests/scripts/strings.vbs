@@ -1,6 +1,6 @@
-' Tokens, lines, words, units and name indices; texts and arrays that the library changes.
+' Tokens, lines, words, units, name indices and range strings; texts and arrays that the library changes.
 Option Explicit
-Dim strings, text, position, items, list, count, checks
+Dim strings, text, position, items, values, list, count, checks
 Set strings = CreateObject("QZBase.GCStrings")
 
 Sub Check(name, value)
@@ -30,6 +30,24 @@ Set list = CreateObject("QZBase.CStrVector")
 list.SetFromArray items
 Check "items", count & " " & list.GetString
 
+Check "enumeration", strings.MakeEnumRange(items) & " " & strings.MakeEnumRange(items, "none")
+strings.InitEnumRange text
+text = text & "x;y;"
+strings.FinalizeEnumRange text
+count = strings.ParseEnumRange(text, items)
+list.SetFromArray items
+Check "enumeration read", text & " " & count & " " & list.GetString
+Check "position and item", strings.EnumOrd("y", text) & " " & strings.EnumVal(1, text)
+Check "kinds", strings.IsMember("Y", text) & " " & strings.IsList(text) & " " & strings.IsCombo("{1;*}")
+ReDim values(0)
+Set list = CreateObject("QZBase.CDblVector")
+count = strings.ParseValueList("{1;2.5}", values)
+list.SetFromArray values
+Check "values", count & " " & list.GetString & " " & strings.MakeValueList(values)
+Check "valid", strings.CheckRangeStringValid("{[0;1];[5;6]}") & " " & (strings.CheckRangeStringValid("[1;0]") > 0)
+Check "in words", strings.HumanReadable("{[0;1];[5;6]}")
+Check "in range", strings.IsInRange(0.3, "[0;1]", "0.1") & " " & strings.IsInRange(0.35, "[0;1]", "0.1")
+
 On Error Resume Next
 position = 0
 text = strings.GetNextLine("x", position)
@@ -37,5 +55,8 @@ Check "line from 0", Err.Number & " " & position
 Err.Clear
 text = strings.GetChar("abc", "two")
 Check "position that is no number", Err.Number
+Err.Clear
+text = strings.IsInRange(1, "[0;1]", "1E-320")
+Check "step too small", Err.Number
 Err.Clear
 WScript.Echo "done " & checks

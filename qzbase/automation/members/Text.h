@@ -1,4 +1,4 @@
-// The members of the text room: tokens, words and names.
+// The members of the text room: tokens, words, names and range strings.
 #pragma once
 
 #include "qzbase/automation/Identities.h"
@@ -25,6 +25,27 @@ inline constexpr auto members<GCStrings> = table(
     method<&GCStrings::IndexFormat>("IndexFormat", {"Index"},
                                     "A number format that keeps the leading zeros of an index."),
     method<&GCStrings::GetNameRoot>("GetNameRoot", {"Name"}, "A name without the digits at its end."),
-    method<&GCStrings::GetChar>("GetChar", {"InVal", "Pos"}, "The character at a position, or nothing."));
+    method<&GCStrings::GetChar>("GetChar", {"InVal", "Pos"}, "The character at a position, or nothing."),
+    method<&GCStrings::InitEnumRange>("InitEnumRange", {"pRange"}, "Begins an enumeration."),
+    method<&GCStrings::FinalizeEnumRange>("FinalizeEnumRange", {"pRange"}, "Ends an enumeration."),
+    method<&GCStrings::MakeEnumRange>("MakeEnumRange", {byRef("Item"), opt("FirstItem", u"")},
+                                      "The enumeration of an array of items."),
+    method<&GCStrings::ParseEnumRange>("ParseEnumRange", {"Range", "Item"},
+                                       "Splits an enumeration and returns the number of items."),
+    method<&GCStrings::EnumOrd>("EnumOrd", {"Item", "Range"}, "The position of an item in an enumeration, or -1."),
+    method<&GCStrings::EnumVal>("EnumVal", {"ItemNr", "Range"},
+                                "The item at a position of an enumeration, or nothing."),
+    method<&GCStrings::MakeValueList>("MakeValueList", {byRef("Value")}, "The list of an array of numbers."),
+    method<&GCStrings::ParseValueList>("ParseValueList", {"List", "Value"},
+                                       "Reads a list of numbers and returns how many there are."),
+    method<&GCStrings::IsMember>("IsMember", {"Value", "Range"},
+                                 "Whether a value is an item of an enumeration, ignoring case."),
+    method<&GCStrings::IsList>("IsList", {"Range"}, "Whether a range lists single values and allows no others."),
+    method<&GCStrings::IsCombo>("IsCombo", {"Range"}, "Whether a range lists single values and allows others."),
+    method<&GCStrings::CheckRangeStringValid>("CheckRangeStringValid", {"Range"},
+                                              "0 for a well-formed range, else an error number, not raised."),
+    method<&GCStrings::HumanReadable>("HumanReadable", {"Range"}, "A range in words."),
+    method<&GCStrings::IsInRange>("IsInRange", {"Value", "Range", "Step"},
+                                  "Whether a number lies in an interval and on its steps."));
 
 }  // namespace qzbase::automation

@@ -1,4 +1,4 @@
-#include "examples/measurements/Csv.h"
+#include "examples/support/Csv.h"
 
 #include <stdexcept>
 #include <utility>
