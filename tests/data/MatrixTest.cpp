@@ -98,6 +98,7 @@ TYPED_TEST(EveryMatrix, MakesAndCopiesRows) {
 TEST(CDblMatrix, SortsRowsAsTheInsertionSortDoes) {
   CDblMatrix matrix;
   Fill(matrix, {{3, 1}, {std::numeric_limits<double>::quiet_NaN(), 2}, {1, 3}, {3, 4}, {4, 5}});
+  EXPECT_FALSE(matrix.IsEqual(matrix));  // not-a-number
   matrix.Sort(1);
   EXPECT_EQ(ToUtf8(matrix.Col(2)->GetString()), "(3;1;2;4;5)");
   matrix.Sort(1, false);
