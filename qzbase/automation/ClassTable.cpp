@@ -25,7 +25,9 @@ namespace qzbase::automation {
 extern template struct RoomEntries<CoreClasses>;
 extern template struct RoomEntries<TextClasses>;
 extern template struct RoomEntries<PersistClasses>;
+extern template struct RoomEntries<DescClasses>;
 extern template struct RoomEntries<DataClasses>;
+extern template struct RoomEntries<PlatformClasses>;
 
 namespace {
 
@@ -36,9 +38,9 @@ using runtime::Ref;
 using runtime::RuntimeError;
 using runtime::Variant;
 
-constexpr std::array<std::span<const ClassEntry>, 4> kRooms = {
+constexpr std::span<const ClassEntry> kRooms[] = {
     RoomEntries<CoreClasses>::kEntries, RoomEntries<TextClasses>::kEntries, RoomEntries<PersistClasses>::kEntries,
-    RoomEntries<DataClasses>::kEntries};
+    RoomEntries<DescClasses>::kEntries, RoomEntries<DataClasses>::kEntries, RoomEntries<PlatformClasses>::kEntries};
 
 // All classes, and a hash table of their types. Types are looked up by address: within one program a type has one.
 class ClassList {

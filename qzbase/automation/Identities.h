@@ -175,11 +175,14 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 
 // Classes by room: the tables of a room are compiled together.
 using CoreClasses = TypeList<GCError, GCMath>;
-using TextClasses = TypeList<GCStrings>;
+using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CDblMatrix, CMatrix>;
+using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
+using DataClasses =
+    TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors, CDblMatrix, CMatrix>;
+using PlatformClasses = TypeList<GCBase>;
 
-using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DataClasses>;
+using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =
     TypeList<QZVarType, QZCtrlType, QZColor, TRegKey, GraphLabel, GraphAxis, BorderType, GraphType3D>;

@@ -56,6 +56,8 @@ class TCtrlDesc final : public runtime::Object {
   void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
 
  private:
+  struct FieldLists;
+
   std::u16string id_;
   std::u16string range_;
   std::u16string interval_;

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "qzbase/desc/TCtrlDesc.h"
 #include "qzbase/desc/TVarDesc.h"

@@ -25,7 +25,7 @@ class TVarDesc final : public runtime::Object {
   void LetID(std::u16string_view pID) { id_ = pID; }
   QZVarType VarType() const noexcept { return varType_; }
   void LetVarType(QZVarType pVarType) noexcept { varType_ = pVarType; }
-  const std::u16string& Name() const noexcept { return name_.empty() ? id_ : name_; }
+  const std::u16string& Name() const;
   void LetName(std::u16string_view pName) { name_ = pName; }
   const std::u16string& Unit() const noexcept { return unit_; }
   void LetUnit(std::u16string_view pUnit) { unit_ = pUnit; }
@@ -59,6 +59,8 @@ class TVarDesc final : public runtime::Object {
   void LetUserDefined(bool pUserDefined) noexcept { userDefined_ = pUserDefined; }
 
  private:
+  struct FieldLists;
+
   std::u16string id_;
   std::u16string name_;
   std::u16string unit_;

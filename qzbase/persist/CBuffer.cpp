@@ -32,8 +32,8 @@ Bytes CopyOf(std::span<const std::uint8_t> pBytes) {
   return runtime::WithMemory([&] { return Bytes(pBytes.begin(), pBytes.end()); });
 }
 
-void CheckCount(std::int32_t pCount, std::int32_t pBytesLeft) {
-  if (pCount - std::int64_t{std::max(pBytesLeft, 0)} > kCountTolerance) Raise(RuntimeError::OutOfMemory);
+void CheckCount(std::int64_t pCount, std::int32_t pBytesLeft) {
+  if (pCount - std::max(pBytesLeft, 0) > kCountTolerance) Raise(RuntimeError::OutOfMemory);
 }
 
 // The elements from index 0 on. An array that begins above it has no such element.
@@ -256,9 +256,9 @@ Variant CBuffer::NextObject(QZVarType VarType) {
   return RecordOf(VarType).next(*this);
 }
 
-std::int32_t CBuffer::NextCount() {
+std::int32_t CBuffer::NextCount(std::int32_t pLeastBytes) {
   const std::int32_t count = NextLong();
-  CheckCount(count, BytesLeft());
+  CheckCount(std::int64_t{count} * pLeastBytes, BytesLeft());
   return count;
 }
 

@@ -88,8 +88,9 @@ class CBuffer final : public runtime::Object {
   // the byte at the cursor is taken as one: right only for untyped buffers, since markers are numbered otherwise.
   runtime::Variant NextObject(QZVarType VarType = EVTInvalid);
 
-  // `NextLong` for the number of elements of a container, checked against the bytes left.
-  std::int32_t NextCount();
+  // `NextLong` for the number of elements of a container, checked against the bytes left, of which each element takes
+  // `pLeastBytes` or more. Elements that are far bigger than one byte once they are made must say so.
+  std::int32_t NextCount(std::int32_t pLeastBytes = 1);
 
   void ResetPos() { ReadHeader(); }                     // to the first record
   void Clear();                                         // to an empty typed buffer; memory is kept until `Trim`

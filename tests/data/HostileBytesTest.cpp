@@ -11,6 +11,8 @@
 #include "qzbase/data/CLngVector.h"
 #include "qzbase/data/CMatrix.h"
 #include "qzbase/data/CStrVector.h"
+#include "qzbase/desc/CTypedInfo.h"
+#include "qzbase/desc/CVarDescs.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
@@ -29,10 +31,10 @@ void ReadFirst(CBuffer& pBuffer) {
   (pBuffer.*Next)();
 }
 
-template <class Vector>
+template <class Saved>
 void Load(CBuffer& pBuffer) {
-  Vector vector;
-  vector.LoadFromBuffer(&pBuffer);
+  Saved object;
+  object.LoadFromBuffer(&pBuffer);
 }
 
 void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
@@ -42,6 +44,12 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CBoolVector>,
                                             &Load<CDblMatrix>,
                                             &Load<CMatrix>,
+                                            &Load<TVarDesc>,
+                                            &Load<TCtrlDesc>,
+                                            &Load<TEntryDesc>,
+                                            &Load<CVarDescs>,
+                                            &Load<CEntryDescs>,
+                                            &Load<CTypedInfo>,
                                             &ReadFirst<&CBuffer::NextLong>,
                                             &ReadFirst<&CBuffer::NextString>,
                                             &ReadFirst<&CBuffer::NextData>,
@@ -71,6 +79,23 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
     {"CBoolVector", "/VE#1;3;True;False;True;\\VE;"},
     {"CDblMatrix", "/MA#1;2;2;\n/VE#1;2;1.5;-9.9999999999E+300;\\VE;\n/VE#1;3;0;2;3;\\VE;\\MA;"},
     {"CMatrix", "/MA#1;2;2;\n/VE#1;2;\u00C4a;7;\\VE;\n/VE#1;2;True;-0.5;\\VE;\\MA;"},
+    {"TVarDesc.1", "/VD#1;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;\\VD;"},
+    {"TVarDesc", "/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"},
+    {"TCtrlDesc.1", "/CD#1;Temp;2;False;1200;False;True;True;True;\\CD;"},
+    {"TCtrlDesc", "/CD#2;Temp;2;True;[0;100];0.5;1200;False;True;True;\\CD;"},
+    {"TEntryDesc",
+     "/ED#1;\n/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"
+     "\n/CD#2;Temp;2;True;[0;100];0.5;1200;False;True;True;\\CD;\\ED;"},
+    {"CVarDescs", "/VV#1;2;\n/VD#2;L;;;2;;False;;0;;False;\\VD;\n/VD#2;n;;;3;;False;;0;;False;\\VD;\\VV;"},
+    {"CEntryDescs",
+     "/DV#1;2;\n/ED#1;\n/VD#2;L;;;2;;False;;0;;False;\\VD;\n/CD#2;L;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;n;;;3;;False;;0;;False;\\VD;\n/CD#2;n;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"},
+    {"CTypedInfo",
+     "/TypedInfo#1;\n/DV#1;3;"
+     "\n/ED#1;\n/VD#2;n;;;3;;False;;0;;False;\\VD;\n/CD#2;n;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;o;;;7;;False;;0;;False;\\VD;\n/CD#2;o;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;d;;;2;;False;;0;;False;\\VD;\n/CD#2;d;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"
+     "3;1.5;\\TypedInfo;"},
 };
 
 TEST(HostileBytes, FailOnlyAsDocumented) {

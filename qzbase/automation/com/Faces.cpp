@@ -19,7 +19,9 @@ namespace qzbase::automation::com {
 extern template struct RoomFaces<CoreClasses>;
 extern template struct RoomFaces<TextClasses>;
 extern template struct RoomFaces<PersistClasses>;
+extern template struct RoomFaces<DescClasses>;
 extern template struct RoomFaces<DataClasses>;
+extern template struct RoomFaces<PlatformClasses>;
 
 namespace {
 
@@ -48,7 +50,8 @@ std::u16string ProgId(const Face& pFace) {
 }
 
 std::span<const Face* const> AllFaces() {
-  static const auto faces = JoinFaces(TypeList<CoreClasses, TextClasses, PersistClasses, DataClasses>());
+  static const auto faces =
+      JoinFaces(TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>());
   return faces;
 }
 

@@ -19,11 +19,15 @@ constexpr auto SaveRows() {
                                          "Reads the object from a buffer, from its start unless it goes on."));
 }
 
+template <class C>
+constexpr auto IsEqualRow(const char* pCompare = "pCompare") {
+  return method<&C::IsEqual>("IsEqual", {pCompare}, "Whether two objects have equal contents.");
+}
+
 // What they all can do, but for their texts.
 template <class C>
 constexpr auto ObjectRows(const char* pSource = "pSource", const char* pCompare = "pCompare") {
-  return rows(CopyRows<C>(pSource),
-              method<&C::IsEqual>("IsEqual", {pCompare}, "Whether two objects have equal contents."), SaveRows<C>());
+  return rows(CopyRows<C>(pSource), IsEqualRow<C>(pCompare), SaveRows<C>());
 }
 
 }  // namespace qzbase::automation

@@ -1,8 +1,9 @@
-// The records of the platform services.
+// The members of the platform services, and their records.
 #pragma once
 
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/Members.h"
+#include "qzbase/platform/GCBase.h"
 #include "qzbase/platform/TFontStyle.h"
 #include "qzbase/platform/TGuid.h"
 #include "qzbase/platform/TTimeStamp.h"
@@ -25,5 +26,37 @@ inline constexpr auto fields<TFontStyle> = record(
     field<&TFontStyle::Name>("Name", "The name of the font."), field<&TFontStyle::Size>("Size", "The size, in points."),
     field<&TFontStyle::Style>("Style", "Bits: 1 bold, 2 italic, 4 underlined, 8 struck through."),
     field<&TFontStyle::Color>("Color", "The colour."));
+
+// ---- GCBase: the factories. `PName` is spelt so wherever it is a parameter: type libraries know one spelling a name.
+
+template <auto kFunction>
+constexpr auto EntryFactory(const char* pName, const char* pHelp) {
+  return method<kFunction>(pName,
+                           {"pID", "pVarType", opt("PName", u""), opt("pUnit", u""), opt("pCtrlType", ECTEdit),
+                            opt("pFormat", u""), opt("pRange", u""), opt("pInterval", u""), opt("pSaveMask", true),
+                            opt("pUserDefined", false), opt("pRemovable", false)},
+                           pHelp);
+}
+
+constexpr auto FactoryRows() {
+  return rows(method<&GCBase::NewVarDesc>(
+                  "NewVarDesc", {"pID", "pVarType", opt("PName", u""), opt("pUnit", u""), opt("pOutFormat", u"")},
+                  "A new value descriptor."),
+              method<&GCBase::NewCtrlDesc>("NewCtrlDesc", {"pID", "pCtrlType"}, "A new control descriptor."),
+              EntryFactory<&GCBase::NewEntryDesc>("NewEntryDesc", "A new entry descriptor of a single value."),
+              EntryFactory<&GCBase::NewVectorDesc>("NewVectorDesc", "A new entry descriptor of a vector."),
+              method<&GCBase::NewFormulaDesc>(
+                  "NewFormulaDesc", {"pID", "PName", "pVarType", "pFormula", opt("pUnit", u""), opt("pFormat", u"")},
+                  "A new entry descriptor of a formula."),
+              method<&GCBase::EntryDesc>("EntryDesc", {"VarDesc", opt("CtrlDesc")},
+                                         "A new entry descriptor of copies of its parts."),
+              method<&GCBase::Vector>("Vector", {"Value"}, "A new vector of one value."),
+              method<&GCBase::LngVector>("LngVector", {"Value"}, "A new vector of one 32-bit integer."),
+              method<&GCBase::DblVector>("DblVector", {"Value"}, "A new vector of one double."),
+              method<&GCBase::StrVector>("StrVector", {"Value"}, "A new vector of texts from a text like (a;b;c)."));
+}
+
+template <>
+inline constexpr auto members<GCBase> = table(FactoryRows());
 
 }  // namespace qzbase::automation

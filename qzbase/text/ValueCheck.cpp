@@ -1,0 +1,153 @@
+// A host may have given a registered error the number 0, and raising it returns then. What follows each `RaiseBuiltIn`
+// goes on as if nothing was wrong, until the platform's own conversion raises.
+#include "qzbase/text/ValueCheck.h"
+
+#include <algorithm>
+#include <limits>
+#include <string>
+
+#include "qzbase/core/ModError.h"
+#include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/DateReader.h"
+#include "qzbase/runtime/NumberReader.h"
+#include "qzbase/runtime/TextCompare.h"
+#include "qzbase/text/NumberDelims.h"
+#include "qzbase/text/RangeString.h"
+#include "qzbase/text/ValueReader.h"
+
+namespace qzbase::ModConvert {
+namespace {
+
+using ModError::RaiseBuiltIn;
+using runtime::LocaleRules;
+using runtime::ReadResult;
+
+constexpr std::size_t kNotFound = std::u16string_view::npos;
+
+// Whether the text says that there is no value, which must be allowed.
+bool IsNoValue(std::u16string_view pValue, bool pAllowInvalid) {
+  if (pValue != kInvalidString) return false;
+  if (!pAllowInvalid) RaiseBuiltIn(BuiltInError::InValue);
+  return true;
+}
+
+bool Holds(std::u16string_view pText, std::u16string_view pDelimiter) {
+  return !pDelimiter.empty() && pText.find(pDelimiter) != kNotFound;
+}
+
+bool HoldsText(std::u16string_view pText, std::u16string_view pSought, const LocaleRules& pRules) {
+  return runtime::FindText(pText, pSought, 0, pRules) != kNotFound;
+}
+
+double CheckedDouble(std::u16string_view pValue, bool pLocalized, const LocaleRules& pRules) {
+  std::u16string room;
+  const std::u16string_view text = LocalizedNumber(pValue, pLocalized, room, pRules);
+  const std::u16string_view thousands = WindowsThousandDelim(pRules);
+  if (Holds(text, thousands) && !runtime::EqualText(thousands, WindowsDecimalDelim(pRules), pRules))
+    RaiseBuiltIn(BuiltInError::InvFormat);
+  double number = 0;
+  if (runtime::ReadNumber(text, number, pRules) == ReadResult::Read) return number;
+  RaiseBuiltIn(BuiltInError::InvFormat);
+  return runtime::TextToDouble(text, pRules);
+}
+
+std::int32_t CheckedLong(std::u16string_view pValue, const LocaleRules& pRules) {
+  std::int32_t number = 0;
+  if (!Holds(pValue, WindowsThousandDelim(pRules)) && !Holds(pValue, WindowsDecimalDelim(pRules)) &&
+      runtime::ReadNumber(pValue, number, pRules) == ReadResult::Read &&
+      number != std::numeric_limits<std::int32_t>::min())
+    return number;
+  RaiseBuiltIn(BuiltInError::InvFormat);
+  return runtime::TextToLong(pValue, pRules);
+}
+
+void CheckDateText(std::u16string_view pValue, const LocaleRules& pRules) {
+  runtime::Date date;
+  if (runtime::ReadDate(pValue, date, pRules)) return;
+  RaiseBuiltIn(BuiltInError::InvFormat);
+  runtime::TextToDate(pValue, pRules);
+}
+
+// "[0;1] 'auto'" names the value "auto".
+bool IsNamed(std::u16string_view pValue, std::u16string_view pRange, const LocaleRules& pRules) {
+  constexpr std::u16string_view kQuote = u"'";
+  if (pRange.find(kQuote) == kNotFound) return false;
+  std::u16string name(kQuote);
+  name.append(pValue).append(kQuote);
+  return HoldsText(pRange, name, pRules);
+}
+
+bool IsTextAllowed(std::u16string_view pValue, std::u16string_view pRange, const LocaleRules& pRules) {
+  if (pRange.empty() || pRange.find(u"{*") != kNotFound || pRange.find(u"*}") != kNotFound) return true;
+  return !pValue.empty() && (pRange == u"*" || HoldsText(pRange, pValue, pRules));
+}
+
+// Whether the value is in the range; what is no value of the type raises.
+bool IsAllowed(std::u16string_view pValue, QZVarType pVarType, std::u16string_view pRange, std::u16string_view pStep,
+               std::u16string_view pFormat, bool pLocalized, const LocaleRules& pRules) {
+  switch (pVarType) {
+    case EVTBoolean:
+      return HoldsText(pFormat.empty() ? kDefaultBooleans : pFormat, pValue, pRules);
+    case EVTDouble:
+      return ModString::IsInRange(CheckedDouble(pValue, pLocalized, pRules), pRange, pStep);
+    case EVTLong: {
+      const std::int32_t number = CheckedLong(pValue, pRules);
+      return !pFormat.empty() || ModString::IsInRange(number, pRange, pStep);
+    }
+    case EVTString:
+      return IsTextAllowed(pValue, pRange, pRules);
+    case EVTDate:
+      CheckDateText(pValue, pRules);
+      return true;
+    case EVTEnum:
+      return StringToEnum(pValue, pFormat) >= 1;
+    case EVTInvalid:
+    case EVTColor:
+    case EVTObject:
+      break;
+  }
+  return true;
+}
+
+bool IsInBraces(std::u16string_view pRange) {
+  return pRange.starts_with(u'{') && pRange.ends_with(u'}');
+}
+
+}  // namespace
+
+void CheckDouble(std::u16string_view pValue, bool pAllowInvalid, bool pLocalized, const LocaleRules& pRules) {
+  if (!IsNoValue(pValue, pAllowInvalid)) CheckedDouble(pValue, pLocalized, pRules);
+}
+
+void CheckLong(std::u16string_view pValue, bool pAllowInvalid, const LocaleRules& pRules) {
+  if (!IsNoValue(pValue, pAllowInvalid)) CheckedLong(pValue, pRules);
+}
+
+void CheckDate(std::u16string_view pValue, bool pAllowInvalid, const LocaleRules& pRules) {
+  if (!IsNoValue(pValue, pAllowInvalid)) CheckDateText(pValue, pRules);
+}
+
+void CheckValue(std::u16string_view pValue, QZVarType pVarType, std::u16string_view pRange, std::u16string_view pStep,
+                std::u16string_view pFormat, bool pLocalized, bool pAllowInvalid, const LocaleRules& pRules) {
+  if (IsNoValue(pValue, pAllowInvalid) || IsNamed(pValue, pRange, pRules) ||
+      IsAllowed(pValue, pVarType, pRange, pStep, pFormat, pLocalized, pRules))
+    return;
+  if (pVarType == EVTString && pValue.empty()) return RaiseBuiltIn(BuiltInError::EmptyText);
+  std::u16string information(pValue);
+  RaiseBuiltIn(BuiltInError::InvRange, information.append(u" ").append(pRange));
+}
+
+std::int32_t CheckNrOutFormat(std::u16string_view pFormat) {
+  if (pFormat.find(u',') == kNotFound) return 0;
+  return ModError::ErrCodeOf(ModError::IndexOf(BuiltInError::InvOutFormat));
+}
+
+bool IsBooleanRange(std::u16string_view pRange) {
+  return IsInBraces(pRange) && std::count(pRange.begin(), pRange.end(), u';') == 1;
+}
+
+bool IsEnumRange(std::u16string_view pRange) {
+  return IsInBraces(pRange);
+}
+
+}  // namespace qzbase::ModConvert
