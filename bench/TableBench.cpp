@@ -289,8 +289,8 @@ void Index(benchmark::State& pState) {
 
 void Register(const std::string& pSubject, std::int64_t pRows, auto pLimit, auto pLibrary) {
   const std::string subject = pSubject + std::to_string(pRows);
-  for (const auto& [name, function] : {std::pair<std::string, std::function<void(benchmark::State&)>>{"/limit", pLimit},
-                                       {"/CEntryData", pLibrary}})
+  for (const auto& [name, function] :
+       {std::pair<std::string, std::function<void(benchmark::State&)>>{"/limit", pLimit}, {"/CEntryData", pLibrary}})
     benchmark::RegisterBenchmark((subject + name).c_str(), function)->Arg(pRows)->Unit(benchmark::kMillisecond);
 }
 
@@ -299,10 +299,12 @@ const bool kRegistered = [] {
     Register("TableFill", rows, FillLimit, Fill);
     Register("TableSave", rows, SaveLimit, Save);
     Register("TableLoad", rows, LoadLimit, Load);
-    Register("TableSortDouble", rows, [](auto& state) { SortLimit(state, &PlainRows::doubles); },
-             [](auto& state) { Sort(state, 2); });
-    Register("TableSortText", rows, [](auto& state) { SortLimit(state, &PlainRows::texts); },
-             [](auto& state) { Sort(state, 3); });
+    Register(
+        "TableSortDouble", rows, [](auto& state) { SortLimit(state, &PlainRows::doubles); },
+        [](auto& state) { Sort(state, 2); });
+    Register(
+        "TableSortText", rows, [](auto& state) { SortLimit(state, &PlainRows::texts); },
+        [](auto& state) { Sort(state, 3); });
   }
   return true;
 }();

@@ -178,7 +178,8 @@ using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors, CEntryData, CTable>;
+using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors,
+                             CDblMatrix, CMatrix, CEntryData, CTable>;
 using PlatformClasses = TypeList<GCBase>;
 
 using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>;

@@ -3,13 +3,17 @@
 
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/RowMatrix.h"
+#include "qzbase/runtime/Compare.h"
 
 namespace qzbase {
 
 struct DoubleRow {
   using RowVector = CDblVector;
-  using Argument = double;
-  using Result = double;
+  using Key = double;
+
+  static runtime::Order Compare(double pLeft, double pRight, const runtime::LocaleRules&) {
+    return runtime::CompareNumbers(pLeft, pRight);
+  }
 };
 
 class CDblMatrix final : public RowMatrix<CDblMatrix, DoubleRow> {};

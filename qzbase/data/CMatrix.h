@@ -4,15 +4,22 @@
 // back from the buffers written today (CVector.h): loading one raises InvVarType.
 #pragma once
 
+#include <functional>
+
 #include "qzbase/data/CVector.h"
 #include "qzbase/data/RowMatrix.h"
+#include "qzbase/data/VectorSort.h"
 
 namespace qzbase {
 
 struct VariantRow {
   using RowVector = CVector;
-  using Argument = runtime::Variant;
-  using Result = const runtime::Variant&;  // good until the row changes
+  using Key = std::reference_wrapper<const runtime::Variant>;  // into the row
+
+  static runtime::Order Compare(const runtime::Variant& pLeft, const runtime::Variant& pRight,
+                                const runtime::LocaleRules& pRules) {
+    return CompareInSort(pLeft, pRight, runtime::CaseRule::IgnoreCase, pRules);
+  }
 };
 
 class CMatrix final : public RowMatrix<CMatrix, VariantRow> {};

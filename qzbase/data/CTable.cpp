@@ -130,8 +130,7 @@ runtime::Ref<CTable> CTable::GetCopy() const {
 }
 
 bool CTable::IsEqual(const CTable& pCompare) const {
-  return runtime::EqualText(id_, pCompare.id_) && descs_->IsEqual(*pCompare.descs_) &&
-         data_->IsEqual(*pCompare.data_);
+  return runtime::EqualText(id_, pCompare.id_) && descs_->IsEqual(*pCompare.descs_) && data_->IsEqual(*pCompare.data_);
 }
 
 void CTable::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {

@@ -10,8 +10,8 @@
 //   table.GetString();                     // "Name;Density;", "~;7.87;", each with a line feed
 //
 // Every member keeps the two in step: as many descriptors as grid columns, column i of the type of descriptor i. What
-// is changed through `DescsRef`, `DataRef`, `ColDescRef` and `ColRef` is the caller's own affair. Positions count from 1
-// and go to both as they are; DescList.h and CEntryData.h say what becomes of those outside, and of slots that hold
+// is changed through `DescsRef`, `DataRef`, `ColDescRef` and `ColRef` is the caller's own affair. Positions count from
+// 1 and go to both as they are; DescList.h and CEntryData.h say what becomes of those outside, and of slots that hold
 // nothing: `LetNrCols` makes new descriptors but no columns, so that their cells raise error 91 until `SetColDesc` or
 // `LetColDesc` has given them a type.
 //

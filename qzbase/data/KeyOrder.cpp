@@ -79,11 +79,10 @@ std::vector<std::int32_t> KeyOrder(std::span<const Variant> pKeys, bool pAscendi
   if (pKeys.size() < 2) return std::vector<std::int32_t>(pKeys.size());
   if (std::all_of(pKeys.begin(), pKeys.end(), IsNumber)) return OrderOf<NumberKey>(pKeys, pAscending);
   if (std::all_of(pKeys.begin(), pKeys.end(), IsText)) return OrderOf<TextKey>(pKeys, pAscending);
-  return SortedOrder(static_cast<std::int32_t>(pKeys.size()), pAscending,
-                     [&](std::int32_t pFirst, std::int32_t pSecond) {
-                       return CompareInSort(pKeys[static_cast<std::size_t>(pFirst)],
-                                            pKeys[static_cast<std::size_t>(pSecond)]);
-                     });
+  return SortedOrder(
+      static_cast<std::int32_t>(pKeys.size()), pAscending, [&](std::int32_t pFirst, std::int32_t pSecond) {
+        return CompareInSort(pKeys[static_cast<std::size_t>(pFirst)], pKeys[static_cast<std::size_t>(pSecond)]);
+      });
 }
 
 }  // namespace qzbase

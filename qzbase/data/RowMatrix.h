@@ -12,8 +12,8 @@
 // changed in the matrix. `NrCols` is the length that rows are meant to have; rows that were added, or changed from
 // outside, may be longer or shorter.
 //
-// A column index is checked by the row, against its slots and not its size (TypedVector.h). The matrix has as many row
-// slots as rows, at least one: slot 1 of a matrix without rows keeps the row that was deleted last, which is row 1
+// A column index is checked by the row, against its slots and not its size (ElementVector.h). The matrix has as many
+// row slots as rows, at least one: slot 1 of a matrix without rows keeps the row that was deleted last, which is row 1
 // again when `NrRows` grows. Outside the slots error 9 (subscript out of range) is raised, for a row that was never
 // there 91 (object not set).
 //
@@ -24,7 +24,6 @@
 #pragma once
 
 #include <cstdint>
-#include <utility>
 
 #include "qzbase/data/BlockStorage.h"
 #include "qzbase/persist/CBuffer.h"
@@ -32,13 +31,13 @@
 
 namespace qzbase {
 
-// `Self` is the matrix's class, `Element` its row of traits: the class of a row, and how it takes and gives a value.
-template <class Self, class Element>
+// `Self` is the matrix's class, `RowTraits` its row of traits: the class of a row, and how rows compare when sorted.
+template <class Self, class RowTraits>
 class RowMatrix : public runtime::Object {
  public:
-  using RowVector = typename Element::RowVector;
-  using Argument = typename Element::Argument;
-  using Result = typename Element::Result;
+  using RowVector = typename RowTraits::RowVector;
+  using Argument = typename RowVector::Argument;
+  using Result = typename RowVector::Result;
 
   // A new number gives every row this size; the same one changes nothing, even where rows have other sizes.
   std::int32_t NrCols() const noexcept { return nrCols_; }
@@ -64,7 +63,7 @@ class RowMatrix : public runtime::Object {
 
   Result Value(std::int32_t pColIdx, std::int32_t pRowIdx) const { return RowAt(pRowIdx).Value(pColIdx); }
   void LetValue(std::int32_t pColIdx, std::int32_t pRowIdx, Argument pValue) {
-    RowAt(pRowIdx).LetValue(pColIdx, std::move(pValue));
+    RowAt(pRowIdx).LetValue(pColIdx, pValue);
   }
 
   // A new vector of `NrRows` elements. The let takes as many from the given one.
