@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "qzbase/data/KeyOrder.h"
+#include "qzbase/data/RowMoves.h"
 #include "qzbase/data/VectorSort.h"
 #include "qzbase/persist/Record.h"
 #include "qzbase/runtime/AutomationError.h"
@@ -131,8 +131,8 @@ void CEntryData::Sort(std::int32_t pColIdx, bool pAscending) {
   ColumnAt(pColIdx);
   runtime::WithMemory([&] {
     const auto columns = RowsOfColumns();
-    const auto order = KeyOrder(columns[static_cast<std::size_t>(pColIdx) - 1], pAscending);
-    for (const std::span<Variant> column : columns) Rearrange(column, order);
+    const RowMoves moves(SortedOrder(columns[static_cast<std::size_t>(pColIdx) - 1], pAscending));
+    for (const std::span<Variant> column : columns) moves.Apply(column);
   });
 }
 
