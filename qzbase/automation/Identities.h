@@ -36,6 +36,9 @@ class TEntryDesc;
 class CVarDescs;
 class CEntryDescs;
 class CTypedInfo;
+class CLayoutGraph;
+class CLayoutGraph3D;
+class CLayoutTable;
 
 struct TErrDesc;
 struct TErrIndex;
@@ -136,6 +139,15 @@ template <> inline constexpr Identity identity<CEntryDescs> = ObjectClass("CEntr
 template <> inline constexpr Identity identity<CTypedInfo> = ObjectClass("CTypedInfo",
     "0FE5B71B-51A0-4639-8764-F8B1F304190A", "01014518-ABB5-4ECD-91CE-8D58CB5D7C5A",
     "A list of values, each with its descriptor.");
+template <> inline constexpr Identity identity<CLayoutGraph> = ObjectClass("CLayoutGraph",
+    "8FCF2084-B110-4172-AF7D-46EFE051E15A", "2E99BF19-FD3E-4155-B8ED-2CE3D82D21EB",
+    "How a graph is drawn.");
+template <> inline constexpr Identity identity<CLayoutGraph3D> = ObjectClass("CLayoutGraph3D",
+    "5AC58052-B81C-480A-AF1C-090B4DF7EE06", "A7588BA3-49A5-4DD8-B543-3C96DC8901CA",
+    "How a surface or contour graph is drawn.");
+template <> inline constexpr Identity identity<CLayoutTable> = ObjectClass("CLayoutTable",
+    "5F7D93D4-B37A-45AA-AC13-A3C0493A7A40", "46B91459-FF33-4D8A-A0C8-2BC2ED0B18AC",
+    "How a table is shown.");
 
 template <> inline constexpr Identity identity<TErrDesc> = RecordNamed("TErrDesc",
     "89FD365E-0127-48BE-9771-30964EA46B62", "A registered error.");
@@ -180,9 +192,12 @@ using PersistClasses = TypeList<CBuffer>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors,
                              CDblMatrix, CMatrix, CEntryData, CTable>;
+using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
 using PlatformClasses = TypeList<GCBase>;
 
-using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>;
+using Rooms =
+    TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses, PlatformClasses>;
+using AllClasses = JoinLists<Rooms>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =
     TypeList<QZVarType, QZCtrlType, QZColor, TRegKey, GraphLabel, GraphAxis, BorderType, GraphType3D>;
