@@ -28,6 +28,9 @@ Ref<CVector> NewColumn(QZVarType pVarType, std::int32_t pNrRows) {
   return column;
 }
 
+// A type and a number of elements: what the record of a column has at least, with markers or without.
+constexpr std::int32_t kLeastColumn = 8;
+
 std::int32_t OneMore(std::int32_t pCount) {
   return CheckedNarrow<std::int32_t>(std::int64_t{pCount} + 1);
 }
@@ -185,7 +188,7 @@ void CEntryData::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
 // The record of a column says how many elements it has; the number of rows alone makes none.
 void CEntryData::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& buffer) {
-    const std::int32_t nrCols = buffer.NextCount();
+    const std::int32_t nrCols = buffer.NextCount(kLeastColumn);
     const std::int32_t nrRows = buffer.NextLong();
     Clear();
     LetNrCols(nrCols);
