@@ -6,14 +6,19 @@
 #include <gtest/gtest.h>
 
 #include "qzbase/data/CBoolVector.h"
+#include "qzbase/data/CDblMatrix.h"
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CDblVectors.h"
+#include "qzbase/data/CEntryData.h"
 #include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CMatrix.h"
 #include "qzbase/data/CObjVector.h"
 #include "qzbase/data/CStrVector.h"
+#include "qzbase/data/CTable.h"
 #include "qzbase/data/CVector.h"
 #include "qzbase/desc/CTypedInfo.h"
 #include "qzbase/desc/CVarDescs.h"
+#include "qzbase/locale/CLocalGUI.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
@@ -46,12 +51,17 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CVector>,
                                             &Load<CDblVectors>,
                                             &Load<CObjVector>,
+                                            &Load<CDblMatrix>,
+                                            &Load<CMatrix>,
+                                            &Load<CEntryData>,
+                                            &Load<CTable>,
                                             &Load<TVarDesc>,
                                             &Load<TCtrlDesc>,
                                             &Load<TEntryDesc>,
                                             &Load<CVarDescs>,
                                             &Load<CEntryDescs>,
                                             &Load<CTypedInfo>,
+                                            &Load<CLocalGUI>,
                                             &ReadFirst<&CBuffer::NextLong>,
                                             &ReadFirst<&CBuffer::NextString>,
                                             &ReadFirst<&CBuffer::NextData>,
@@ -86,6 +96,16 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
      "\n/VE#1;1;255;\\VE;"},
     {"CObjVector", "/VO#1;2;first;one;;\n/DblVectors#1;0;\\DblVectors;\\VO;"},
     {"CDblVectors", "/DblVectors#1;3;\n/VE#1;2;1;2;\\VE;\n/VE#1;0;\\VE;\n/VE#1;2;1;2;\\VE;\\DblVectors;"},
+    {"CDblMatrix", "/MA#1;2;2;\n/VE#1;2;1.5;-9.9999999999E+300;\\VE;\n/VE#1;3;0;2;3;\\VE;\\MA;"},
+    {"CMatrix", "/MA#1;2;2;\n/VE#1;2;\u00C4a;7;\\VE;\n/VE#1;2;True;-0.5;\\VE;\\MA;"},
+    {"CEntryData",
+     "/EntryData#1;4;2;3;\n/VE#1;2;7;-2147483636;\\VE;4;\n/VE#1;2;\u00C4\u4E2D;~;\\VE;"
+     "5;\n/VE#1;2;01.01.1900 12:00:00;30.12.1899 00:00:00;\\VE;1;\n/VE#1;2;True;False;\\VE;\\EntryData;"},
+    {"CTable",
+     "/Table#1;t;\n/DV#1;2;"
+     "\n/ED#1;\n/VD#2;A;;;2;;False;;3;;False;\\VD;\n/CD#2;A;1;True;;;1000;True;False;False;\\CD;\\ED;"
+     "\n/ED#1;\n/VD#2;B;;;4;;False;;3;;False;\\VD;\n/CD#2;B;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"
+     "\n/EntryData#1;2;1;2;\n/VE#1;1;2.5;\\VE;4;\n/VE#1;1;~;\\VE;\\EntryData;\\Table;"},
     {"TVarDesc.1", "/VD#1;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;\\VD;"},
     {"TVarDesc", "/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"},
     {"TCtrlDesc.1", "/CD#1;Temp;2;False;1200;False;True;True;True;\\CD;"},
@@ -103,6 +123,7 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
      "\n/ED#1;\n/VD#2;o;;;7;;False;;0;;False;\\VD;\n/CD#2;o;1;True;;;1000;True;False;False;\\CD;\\ED;"
      "\n/ED#1;\n/VD#2;d;;;2;;False;;0;;False;\\VD;\n/CD#2;d;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"
      "3;1.5;\\TypedInfo;"},
+    {"CLocalGUI", "Form1;Form;2;Caption;\u00DCbersicht;Tag;;2;Frame;;0;1;Option1_2;;0;0;List1;;1;List(3);Blau;0;"},
 };
 
 TEST(HostileBytes, FailOnlyAsDocumented) {
