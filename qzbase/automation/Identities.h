@@ -18,6 +18,8 @@ class GCMath;
 class GCStrings;
 class GCConvert;
 class GCBase;
+class GCRegistry;
+class GCFileUtil;
 class CBuffer;
 class CDblVector;
 class CLngVector;
@@ -39,6 +41,8 @@ class CTypedInfo;
 class CLayoutGraph;
 class CLayoutGraph3D;
 class CLayoutTable;
+class GCResource;
+class CLocalGUI;
 
 struct TErrDesc;
 struct TErrIndex;
@@ -85,6 +89,12 @@ template <> inline constexpr Identity identity<GCConvert> = GlobalClass("GCConve
 template <> inline constexpr Identity identity<GCBase> = GlobalClass("GCBase",
     "343E5B0A-A06B-4740-ABE1-4E12309B912A", "946CB5C2-4C21-4043-88AE-E78344277F58",
     "Makes descriptors and vectors; facts and services of the system.");
+template <> inline constexpr Identity identity<GCRegistry> = GlobalClass("GCRegistry",
+    "E7189813-BE36-4B3E-BF63-B20BCA9DE8B8", "C7EAE775-9E7D-437F-9878-17A364E89802",
+    "Settings in the registry store: buffers, numbers and texts.");
+template <> inline constexpr Identity identity<GCFileUtil> = GlobalClass("GCFileUtil",
+    "F731EB64-BAAE-4126-AB75-B336A72C13DF", "6BCC86B2-190E-445B-A0D8-721624ABF6C8",
+    "Names of files, and small services of the file system.");
 template <> inline constexpr Identity identity<CBuffer> = ObjectClass("CBuffer",
     "6565B8DF-CA64-49A4-82C1-091CD789EC5B", "0ED1242A-4D87-4FDE-B3EA-D773E0D5E0BD",
     "A tagged buffer of bytes in which every object saves and loads itself.");
@@ -148,6 +158,12 @@ template <> inline constexpr Identity identity<CLayoutGraph3D> = ObjectClass("CL
 template <> inline constexpr Identity identity<CLayoutTable> = ObjectClass("CLayoutTable",
     "5F7D93D4-B37A-45AA-AC13-A3C0493A7A40", "46B91459-FF33-4D8A-A0C8-2BC2ED0B18AC",
     "How a table is shown.");
+template <> inline constexpr Identity identity<GCResource> = GlobalClass("GCResource",
+    "9F5372BD-81F8-4C40-8C95-6A4C66FCBE3B", "AE9F2D86-B8DB-49C6-81D1-71B86ED2FDD8",
+    "Translated texts and messages, and localised forms.");
+template <> inline constexpr Identity identity<CLocalGUI> = ObjectClass("CLocalGUI",
+    "09EF0B15-C161-47D0-B8C4-B1AE9ABDCA74", "19B8D40F-27F7-45BD-9ED0-B8B719F71D34",
+    "A node of the tree of localised forms.");
 
 template <> inline constexpr Identity identity<TErrDesc> = RecordNamed("TErrDesc",
     "89FD365E-0127-48BE-9771-30964EA46B62", "A registered error.");
@@ -188,15 +204,16 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 // Classes by room: the tables of a room are compiled together.
 using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
-using PersistClasses = TypeList<CBuffer>;
+using PersistClasses = TypeList<CBuffer, GCRegistry>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors,
                              CDblMatrix, CMatrix, CEntryData, CTable>;
 using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
-using PlatformClasses = TypeList<GCBase>;
+using PlatformClasses = TypeList<GCBase, GCFileUtil>;
+using LocaleClasses = TypeList<GCResource, CLocalGUI>;
 
-using Rooms =
-    TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses, PlatformClasses>;
+using Rooms = TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses,
+                       PlatformClasses, LocaleClasses>;
 using AllClasses = JoinLists<Rooms>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =

@@ -18,6 +18,7 @@
 #include "qzbase/data/CVector.h"
 #include "qzbase/desc/CTypedInfo.h"
 #include "qzbase/desc/CVarDescs.h"
+#include "qzbase/locale/CLocalGUI.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/AllocationMeter.h"
 #include "tests/support/Bytes.h"
@@ -60,6 +61,7 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CVarDescs>,
                                             &Load<CEntryDescs>,
                                             &Load<CTypedInfo>,
+                                            &Load<CLocalGUI>,
                                             &ReadFirst<&CBuffer::NextLong>,
                                             &ReadFirst<&CBuffer::NextString>,
                                             &ReadFirst<&CBuffer::NextData>,
@@ -121,6 +123,7 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
      "\n/ED#1;\n/VD#2;o;;;7;;False;;0;;False;\\VD;\n/CD#2;o;1;True;;;1000;True;False;False;\\CD;\\ED;"
      "\n/ED#1;\n/VD#2;d;;;2;;False;;0;;False;\\VD;\n/CD#2;d;1;True;;;1000;True;False;False;\\CD;\\ED;\\DV;"
      "3;1.5;\\TypedInfo;"},
+    {"CLocalGUI", "Form1;Form;2;Caption;\u00DCbersicht;Tag;;2;Frame;;0;1;Option1_2;;0;0;List1;;1;List(3);Blau;0;"},
 };
 
 TEST(HostileBytes, FailOnlyAsDocumented) {
