@@ -190,7 +190,8 @@ using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors>;
+using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors,
+                             CDblMatrix, CMatrix, CEntryData, CTable>;
 using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
 using PlatformClasses = TypeList<GCBase>;
 

@@ -6,8 +6,10 @@
 #include <gtest/gtest.h>
 
 #include "qzbase/data/CBoolVector.h"
+#include "qzbase/data/CDblMatrix.h"
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CMatrix.h"
 #include "qzbase/data/CStrVector.h"
 #include "qzbase/desc/CTypedInfo.h"
 #include "qzbase/desc/CVarDescs.h"
@@ -40,6 +42,8 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CLngVector>,
                                             &Load<CStrVector>,
                                             &Load<CBoolVector>,
+                                            &Load<CDblMatrix>,
+                                            &Load<CMatrix>,
                                             &Load<TVarDesc>,
                                             &Load<TCtrlDesc>,
                                             &Load<TEntryDesc>,
@@ -73,6 +77,8 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
     {"CLngVector", "/VE#1;3;7;-2147483636;2147483647;\\VE;"},
     {"CStrVector", "/VE#1;4;a;b;~;;\u00C4\u4E2D;\\VE;"},
     {"CBoolVector", "/VE#1;3;True;False;True;\\VE;"},
+    {"CDblMatrix", "/MA#1;2;2;\n/VE#1;2;1.5;-9.9999999999E+300;\\VE;\n/VE#1;3;0;2;3;\\VE;\\MA;"},
+    {"CMatrix", "/MA#1;2;2;\n/VE#1;2;\u00C4a;7;\\VE;\n/VE#1;2;True;-0.5;\\VE;\\MA;"},
     {"TVarDesc.1", "/VD#1;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;\\VD;"},
     {"TVarDesc", "/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"},
     {"TCtrlDesc.1", "/CD#1;Temp;2;False;1200;False;True;True;True;\\CD;"},
