@@ -21,6 +21,11 @@ constexpr double kLargestShare = 0.35;  // of the room
 constexpr double kLargestInside = 0.6;
 constexpr double kThinnest = 0.5;
 
+std::int32_t PositionOf(const CLayoutGraph& pLayout) {
+  const std::int32_t position = pLayout.LegendPos();
+  return position >= kNone && position <= kLowerRight ? position : kRight;
+}
+
 void DrawSample(Svg& pSvg, const TCurveStyle& pStyle, Point pAt, const std::string& pBack) {
   if (HasLine(pStyle)) DrawLine(pSvg, pStyle, MoveTo(pAt) + LineTo({pAt.x + kSampleLength, pAt.y}));
   DrawSymbols(pSvg, pStyle, SymbolPath(pStyle, {pAt.x + kSampleLength / 2, pAt.y}), pBack);
@@ -29,14 +34,14 @@ void DrawSample(Svg& pSvg, const TCurveStyle& pStyle, Point pAt, const std::stri
 }  // namespace
 
 LegendBox::LegendBox(const CLayoutGraph& pLayout, const std::vector<Curve>& pCurves, Box& pRoom)
-    : position_(pLayout.LegendPos()), lettering_(LetteringOf(pLayout, Legend)), room_(pRoom) {
+    : position_(PositionOf(pLayout)), lettering_(LetteringOf(pLayout, Legend)), room_(pRoom) {
   // Border and background are the legend's as a whole, not those of its texts.
   border_ = std::exchange(lettering_.border, 0);
   back_ = std::exchange(lettering_.back, "");
   if (back_.empty()) back_ = ColorText(pLayout.BackColor());
   lettering_.angle = 0;
   const bool isShown = IsShown(pLayout, Legend, pCurves.size() > 1);
-  if (!isShown || pCurves.empty() || position_ <= kNone || position_ > kLowerRight) return;
+  if (!isShown || pCurves.empty() || position_ == kNone) return;
   const double widest = pRoom.Width() * kLargestShare - kSampleLength - kGap - 2 * kPadding;
   entries_.reserve(pCurves.size());
   for (const Curve& curve : pCurves) entries_.push_back({lettering_.Cut(curve.name, widest), &curve.style, {}});

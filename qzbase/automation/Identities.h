@@ -18,6 +18,8 @@ class GCMath;
 class GCStrings;
 class GCConvert;
 class GCBase;
+class GCRegistry;
+class GCFileUtil;
 class CBuffer;
 class CDblVector;
 class CLngVector;
@@ -85,6 +87,12 @@ template <> inline constexpr Identity identity<GCConvert> = GlobalClass("GCConve
 template <> inline constexpr Identity identity<GCBase> = GlobalClass("GCBase",
     "343E5B0A-A06B-4740-ABE1-4E12309B912A", "946CB5C2-4C21-4043-88AE-E78344277F58",
     "Makes descriptors and vectors; facts and services of the system.");
+template <> inline constexpr Identity identity<GCRegistry> = GlobalClass("GCRegistry",
+    "E7189813-BE36-4B3E-BF63-B20BCA9DE8B8", "C7EAE775-9E7D-437F-9878-17A364E89802",
+    "Settings in the registry store: buffers, numbers and texts.");
+template <> inline constexpr Identity identity<GCFileUtil> = GlobalClass("GCFileUtil",
+    "F731EB64-BAAE-4126-AB75-B336A72C13DF", "6BCC86B2-190E-445B-A0D8-721624ABF6C8",
+    "Names of files, and small services of the file system.");
 template <> inline constexpr Identity identity<CBuffer> = ObjectClass("CBuffer",
     "6565B8DF-CA64-49A4-82C1-091CD789EC5B", "0ED1242A-4D87-4FDE-B3EA-D773E0D5E0BD",
     "A tagged buffer of bytes in which every object saves and loads itself.");
@@ -188,12 +196,12 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 // Classes by room: the tables of a room are compiled together.
 using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
-using PersistClasses = TypeList<CBuffer>;
+using PersistClasses = TypeList<CBuffer, GCRegistry>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
 using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors,
                              CDblMatrix, CMatrix, CEntryData, CTable>;
 using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
-using PlatformClasses = TypeList<GCBase>;
+using PlatformClasses = TypeList<GCBase, GCFileUtil>;
 
 using Rooms =
     TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses, PlatformClasses>;

@@ -78,6 +78,10 @@ class BlockStorage {
     return std::span(slots_).first(static_cast<std::size_t>(size_));
   }
 
+  // Gives each element what `pMake` makes, one after the other; those behind one that fails keep what they hold.
+  template <class Make>
+  void MakeElements(Make pMake) requires(!std::same_as<T, bool>);
+
   // Those of them that take memory; all others hold zero, "" or false.
   std::span<const T> WrittenElements() const requires(!std::same_as<T, bool>) {
     const auto size = static_cast<std::size_t>(std::max(size_, 0));
@@ -145,6 +149,19 @@ void BlockStorage<T>::GrowTo(std::int32_t pIndex) {
   const auto needed = static_cast<std::size_t>(pIndex);
   const std::size_t wanted = std::max({needed, 2 * slots_.size(), kFirstSlots});
   runtime::Grow(slots_, needed, std::min(wanted, static_cast<std::size_t>(capacity_)));
+}
+
+// Elements without memory are made where they are to be: writing zeros first would touch the memory twice.
+template <class T>
+template <class Make>
+void BlockStorage<T>::MakeElements(Make pMake) requires(!std::same_as<T, bool>) {
+  if (size_ < 1) return;
+  CheckIndex(size_);
+  const auto size = static_cast<std::size_t>(size_);
+  if (size > slots_.capacity()) runtime::WithMemory([&] { slots_.reserve(size); });
+  const std::size_t written = std::min(size, slots_.size());
+  for (std::size_t i = 0; i < written; ++i) slots_[i] = pMake();
+  while (slots_.size() < size) slots_.emplace_back(pMake());
 }
 
 template <class T>

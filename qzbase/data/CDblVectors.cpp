@@ -11,6 +11,8 @@
 namespace qzbase {
 namespace {
 
+constexpr std::int32_t kLeastRecord = 4;  // the size of an empty vector, in a buffer without markers
+
 runtime::Ref<CDblVector> NewVector(std::int32_t pBlockSize) {
   return runtime::WithMemory([&] {
     auto vector = runtime::New<CDblVector>();
@@ -85,7 +87,7 @@ void CDblVectors::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
 
 void CDblVectors::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& pFrom) {
-    LetSize(pFrom.NextCount());
+    LetSize(pFrom.NextCount(kLeastRecord));
     for (std::int32_t i = 0; i < Size(); ++i) {
       auto vector = runtime::New<CDblVector>();
       vector->LoadFromBuffer(&pFrom, true);

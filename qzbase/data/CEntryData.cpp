@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "qzbase/data/KeyOrder.h"
+#include "qzbase/data/RowMoves.h"
 #include "qzbase/data/VectorSort.h"
 #include "qzbase/persist/Record.h"
 #include "qzbase/runtime/AutomationError.h"
@@ -27,6 +27,9 @@ Ref<CVector> NewColumn(QZVarType pVarType, std::int32_t pNrRows) {
   column->LetSize(pNrRows);
   return column;
 }
+
+// A type and a number of elements: what the record of a column has at least, with markers or without.
+constexpr std::int32_t kLeastColumn = 8;
 
 std::int32_t OneMore(std::int32_t pCount) {
   return CheckedNarrow<std::int32_t>(std::int64_t{pCount} + 1);
@@ -131,8 +134,8 @@ void CEntryData::Sort(std::int32_t pColIdx, bool pAscending) {
   ColumnAt(pColIdx);
   runtime::WithMemory([&] {
     const auto columns = RowsOfColumns();
-    const auto order = KeyOrder(columns[static_cast<std::size_t>(pColIdx) - 1], pAscending);
-    for (const std::span<Variant> column : columns) Rearrange(column, order);
+    const RowMoves moves(SortedOrder(columns[static_cast<std::size_t>(pColIdx) - 1], pAscending));
+    for (const std::span<Variant> column : columns) moves.Apply(column);
   });
 }
 
@@ -185,7 +188,7 @@ void CEntryData::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
 // The record of a column says how many elements it has; the number of rows alone makes none.
 void CEntryData::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& buffer) {
-    const std::int32_t nrCols = buffer.NextCount();
+    const std::int32_t nrCols = buffer.NextCount(kLeastColumn);
     const std::int32_t nrRows = buffer.NextLong();
     Clear();
     LetNrCols(nrCols);

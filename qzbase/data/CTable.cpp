@@ -63,7 +63,10 @@ void CTable::InsertCol(TEntryDesc& pDesc, std::int32_t pAtPos) {
   data_->InsertCol(pDesc.VarType(), pAtPos);
 }
 
+// A position outside raises before a descriptor is lost.
 void CTable::MoveCol(std::int32_t pOldPos, std::int32_t pNewPos) {
+  if (pOldPos == pNewPos) return;
+  for (const std::int32_t position : {pOldPos, pNewPos}) descs_->DescRef(position);
   descs_->MoveDesc(pOldPos, pNewPos);
   data_->MoveCol(pOldPos, pNewPos);
 }

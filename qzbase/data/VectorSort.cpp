@@ -73,21 +73,20 @@ void SortElements(std::span<std::u16string> pElements, bool pAscending) {
 }
 
 Order CompareInSort(const Variant& pLeft, const Variant& pRight, CaseRule pCase, const LocaleRules& pRules) {
-  if (pLeft.IsEmpty() && pRight.If<std::u16string>()) return Order::Less;
-  if (pLeft.If<std::u16string>() && pRight.IsEmpty()) return Order::Greater;
+  const bool isLeftText = pLeft.Kind() == VariantKind::String;
+  if (isLeftText != (pRight.Kind() == VariantKind::String)) {
+    const Variant& other = isLeftText ? pRight : pLeft;
+    if (runtime::CompareExact(other, other, pRules) == Order::Unknown) return Order::Unknown;
+    return isLeftText ? Order::Greater : Order::Less;
+  }
   return pCase == CaseRule::CaseSensitive ? runtime::CompareExact(pLeft, pRight, pRules)
                                           : runtime::Compare(pLeft, pRight, pCase, pRules);
 }
 
 void SortElements(std::span<Variant> pElements, bool pAscending) {
-  const LocaleRules& rules = runtime::ThreadLocale();
   const auto stranger = std::find_if(pElements.begin(), pElements.end(), HasNoOrderAtAll);
-  const auto count = static_cast<std::int32_t>(stranger - pElements.begin());
-  const auto order = SortedOrder(count, pAscending, [&](std::int32_t pFirst, std::int32_t pSecond) {
-    return CompareInSort(pElements[static_cast<std::size_t>(pFirst)], pElements[static_cast<std::size_t>(pSecond)],
-                         CaseRule::CaseSensitive, rules);
-  });
-  Rearrange(pElements, order);
+  const auto count = static_cast<std::size_t>(stranger - pElements.begin());
+  Rearrange(pElements, SortedOrder(pElements.first(count), pAscending));
   if (stranger != pElements.end() && pElements.size() > 1) Raise(RuntimeError::TypeMismatch);
 }
 

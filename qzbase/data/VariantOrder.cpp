@@ -1,5 +1,4 @@
-#include "qzbase/data/KeyOrder.h"
-
+// The order of variants: by plain keys where all are numbers or all are texts, else by comparing the variants.
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -18,7 +17,7 @@ struct NumberKey {
   double number;
   std::int32_t row;
 
-  explicit NumberKey(const Variant& pKey) : number(runtime::ToDouble(pKey)) {}
+  NumberKey(const Variant& pKey, std::int32_t pRow) : number(runtime::ToDouble(pKey)), row(pRow) {}
   bool operator<(const NumberKey& pOther) const { return number < pOther.number; }
 };
 
@@ -28,7 +27,7 @@ struct TextKey {
   const std::u16string* text;
   std::int32_t row;
 
-  explicit TextKey(const Variant& pKey) : text(pKey.If<std::u16string>()) {
+  TextKey(const Variant& pKey, std::int32_t pRow) : text(pKey.If<std::u16string>()), row(pRow) {
     for (std::size_t i = 0; i < 4; ++i) beginning = beginning << 16 | (i < text->size() ? (*text)[i] : 0u);
   }
   bool operator<(const TextKey& pOther) const {
@@ -62,7 +61,8 @@ template <class Key>
 std::vector<std::int32_t> OrderOf(std::span<const Variant> pKeys, bool pAscending) {
   std::vector<Key> keys;
   keys.reserve(pKeys.size());
-  for (const Variant& key : pKeys) keys.emplace_back(key).row = static_cast<std::int32_t>(keys.size()) - 1;
+  std::int32_t row = 0;
+  for (const Variant& key : pKeys) keys.emplace_back(key, row++);
   if (pAscending)
     std::stable_sort(keys.begin(), keys.end());
   else
@@ -75,14 +75,16 @@ std::vector<std::int32_t> OrderOf(std::span<const Variant> pKeys, bool pAscendin
 
 }  // namespace
 
-std::vector<std::int32_t> KeyOrder(std::span<const Variant> pKeys, bool pAscending) {
+std::vector<std::int32_t> SortedOrder(std::span<const Variant> pKeys, bool pAscending) {
   if (pKeys.size() < 2) return std::vector<std::int32_t>(pKeys.size());
   if (std::all_of(pKeys.begin(), pKeys.end(), IsNumber)) return OrderOf<NumberKey>(pKeys, pAscending);
   if (std::all_of(pKeys.begin(), pKeys.end(), IsText)) return OrderOf<TextKey>(pKeys, pAscending);
-  return SortedOrder(
-      static_cast<std::int32_t>(pKeys.size()), pAscending, [&](std::int32_t pFirst, std::int32_t pSecond) {
-        return CompareInSort(pKeys[static_cast<std::size_t>(pFirst)], pKeys[static_cast<std::size_t>(pSecond)]);
-      });
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  const auto key = [pKeys](std::int32_t pIndex) -> const Variant& { return pKeys[static_cast<std::size_t>(pIndex)]; };
+  const auto orderOf = [&](std::int32_t pFirst, std::int32_t pSecond) {
+    return CompareInSort(key(pFirst), key(pSecond), runtime::CaseRule::CaseSensitive, rules);
+  };
+  return SortedOrder(static_cast<std::int32_t>(pKeys.size()), pAscending, orderOf);
 }
 
 }  // namespace qzbase
