@@ -103,7 +103,10 @@ TickPlan PlanTicks(const CLayoutGraph& pLayout, GraphAxis pAxis, Range pRange, d
 
 std::u16string AxisText(const CLayoutGraph& pLayout, GraphAxis pAxis, double pValue, std::u16string_view pFormat) {
   constexpr double kMostItems = 32767;
-  if (IsDate(pLayout, pAxis)) return GCConvert::DateToString(DateAt(pValue), pFormat);
+  if (IsDate(pLayout, pAxis)) {
+    const runtime::Date date = DateAt(pValue);
+    return runtime::IsInCalendar(date) ? GCConvert::DateToString(date, pFormat) : GCConvert::StrInvalid();
+  }
   if (pLayout.AxisType(pAxis) != EVTEnum) return GCConvert::DoubleToString(pValue, pFormat);
   if (!(std::abs(pValue) <= kMostItems)) return {};
   return GCConvert::EnumToString(static_cast<std::int32_t>(std::lround(pValue)), pLayout.AxisFormat(pAxis));

@@ -129,9 +129,7 @@ void DrawCurve(Svg& pSvg, const Curve& pCurve, const Scale& pX, const Scale& pY,
   std::vector<Point> points;
   points.reserve(pCurve.points.size());
   for (const Point& value : pCurve.points) points.push_back({pX.Pixel(value.x), pY.Pixel(value.y)});
-  TCurveStyle dot = pCurve.style;
-  dot.Symbol = kDisk;
-  dot.SymbolSize = 2 * dot.Width + 1;
+  const TCurveStyle dot = DotStyle(pCurve.style);
   std::string symbols;
   std::string dots;
   for (std::size_t i = 0; i < points.size(); ++i) {

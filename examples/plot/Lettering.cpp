@@ -114,10 +114,12 @@ std::vector<std::u16string> Lettering::Wrap(std::u16string_view pText, double pR
 }
 
 Lettering LetteringOf(const CLayoutGraph& pLayout, GraphLabel pLabel, double pAngle) {
+  constexpr double kSmallestFont = 4;
   constexpr double kLargestFont = 72;
   constexpr std::int32_t kLargestBorder = 10;
   const TLabelStyle& style = pLayout.LabelStyle(pLabel);
-  const double points = style.FontSize > 0 ? std::min(style.FontSize, kLargestFont) : DefaultSize(pLabel);
+  const double points =
+      style.FontSize > 0 ? std::clamp(style.FontSize, kSmallestFont, kLargestFont) : DefaultSize(pLabel);
   const bool isVisible = style.BackColor != style.ForeColor && style.BackColor != qzInvalidColor;
   return {.family = Family(style.FontName),
           .size = points * kPixelsPerPoint,

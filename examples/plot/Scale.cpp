@@ -31,22 +31,25 @@ void Range::Include(double pValue) {
 Range Widened(Range pRange, double pLeast, double pRoom) {
   constexpr double kFewestDigits = 1e-12;
   constexpr double kUsualRoom = 0.1;
+  constexpr double kSmallest = 1e-290;  // parts of it are numbers still
   if (std::isnan(pRange.min) || std::isnan(pRange.max)) return {};
   Range range{Finite(std::min(pRange.min, pRange.max)), Finite(std::max(pRange.min, pRange.max))};
   const double size = std::max(std::abs(range.min), std::abs(range.max));
-  if (range.max / 2 - range.min / 2 > std::max(size * kFewestDigits, pLeast) / 2) return range;
-  const double room = pRoom > 0 ? pRoom : size > 0 ? size * kUsualRoom : 1;
+  if (range.max / 2 - range.min / 2 > std::max({size * kFewestDigits, pLeast, kSmallest}) / 2) return range;
+  const double room = pRoom > 0 ? pRoom : size > kSmallest ? size * kUsualRoom : 1;
   return {Finite(range.min - room), Finite(range.max + room)};
 }
 
 Range LogRange(Range pRange, const std::optional<Range>& pPositive) {
-  constexpr double kSmallest = std::numeric_limits<double>::min();
+  constexpr double kSmallest = 1e-290;
   constexpr double kUsualSpan = 1000;
+  constexpr double kLeastRatio = 1 + 1e-9;
   Range range{std::min(pRange.min, pRange.max), std::max(pRange.min, pRange.max)};
   if (!(range.max > 0)) range.max = pPositive ? pPositive->max : 1;
-  if (!(range.min > 0)) range.min = pPositive ? std::min(pPositive->min, range.max) : range.max / kUsualSpan;
-  if (!(range.max / range.min > 1 + 1e-9)) range = {range.min / 2, range.max * 2};
-  return {std::max(range.min, kSmallest), Finite(range.max)};
+  range.max = std::clamp(range.max, kSmallest, kLargest);
+  if (!(range.min > 0)) range.min = pPositive ? pPositive->min : range.max / kUsualSpan;
+  range.min = std::clamp(range.min, kSmallest, range.max);
+  return range.max / range.min > kLeastRatio ? range : Range{range.min / 2, Finite(range.max * 2)};
 }
 
 Scale::Scale(Range pRange, bool pIsLog, double pFrom, double pTo)

@@ -1,5 +1,6 @@
 #include "examples/plot/Svg.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -10,37 +11,38 @@ namespace plot {
 
 namespace {
 
-bool IsXmlCharacter(char16_t pCharacter) {
-  if (pCharacter < 0x20) return pCharacter == u'\t' || pCharacter == u'\n' || pCharacter == u'\r';
-  return pCharacter < 0xFFFE;
+constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
+
+// The length of what XML does not allow at all at the front of a text: control characters, U+FFFE, U+FFFF.
+std::size_t NoXmlLength(std::string_view pText) {
+  constexpr char kFirstPrintable = ' ';
+  const char c = pText.front();
+  if (c >= 0 && c < kFirstPrintable) return c == '\t' || c == '\n' || c == '\r' ? 0 : 1;
+  return pText.starts_with("\xEF\xBF\xBE") || pText.starts_with("\xEF\xBF\xBF") ? 3 : 0;
 }
 
-// What XML does not allow at all becomes a replacement character.
-std::u16string XmlText(std::u16string_view pText) {
-  std::u16string text(pText);
-  for (char16_t& character : text)
-    if (!IsXmlCharacter(character)) character = 0xFFFD;
-  return text;
+std::string_view Escape(char pCharacter) {
+  switch (pCharacter) {
+    case '&':
+      return "&amp;";
+    case '<':
+      return "&lt;";
+    case '>':
+      return "&gt;";
+    case '"':
+      return "&quot;";
+    default:
+      return {};
+  }
 }
 
+// UTF-8.
 void AppendEscaped(std::string& pTarget, std::string_view pText) {
-  for (const char c : pText) {
-    switch (c) {
-      case '&':
-        pTarget += "&amp;";
-        break;
-      case '<':
-        pTarget += "&lt;";
-        break;
-      case '>':
-        pTarget += "&gt;";
-        break;
-      case '"':
-        pTarget += "&quot;";
-        break;
-      default:
-        pTarget += c;
-    }
+  while (!pText.empty()) {
+    const std::size_t refused = NoXmlLength(pText);
+    const std::string_view escape = Escape(pText.front());
+    pTarget += refused > 0 ? kReplacement : escape.empty() ? pText.substr(0, 1) : escape;
+    pText.remove_prefix(std::max<std::size_t>(refused, 1));
   }
 }
 
@@ -63,7 +65,7 @@ void Svg::Add(std::string_view pName, Attributes pAttributes) {
 
 void Svg::AddText(std::string_view pName, Attributes pAttributes, std::u16string_view pText) {
   Start(pName, pAttributes, ">");
-  AppendEscaped(text_, qzbase::os::ToUtf8(XmlText(pText)));
+  AppendEscaped(text_, qzbase::os::ToUtf8(pText));
   text_.append("</").append(pName).append(">\n");
 }
 

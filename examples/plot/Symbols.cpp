@@ -62,7 +62,7 @@ const Shape& ShapeOf(const TCurveStyle& pStyle) {
   return kShapes[isKnown ? static_cast<std::size_t>(pStyle.Symbol) : 0];
 }
 
-double WidthOf(const TCurveStyle& pStyle) {
+std::int32_t WidthOf(const TCurveStyle& pStyle) {
   return std::clamp(pStyle.Width, 1, 20);
 }
 
@@ -91,6 +91,14 @@ std::string Disk(Point pMiddle, double pRadius) {
 
 }  // namespace
 
+TCurveStyle DotStyle(const TCurveStyle& pStyle) {
+  constexpr std::int32_t kDisk = 2;
+  TCurveStyle style = pStyle;
+  style.Symbol = kDisk;
+  style.SymbolSize = 2 * WidthOf(pStyle) + 1;
+  return style;
+}
+
 bool HasLine(const TCurveStyle& pStyle) {
   return pStyle.Pattern != kNoPattern;
 }
@@ -104,7 +112,7 @@ void DrawLine(Svg& pSvg, const TCurveStyle& pStyle, const std::string& pPath) {
   pSvg.Add("path", {{"d", pPath},
                     {"fill", "none"},
                     {"stroke", ColorText(pStyle.Color)},
-                    {"stroke-width", WidthOf(pStyle)},
+                    {"stroke-width", static_cast<double>(WidthOf(pStyle))},
                     {"stroke-linejoin", "round"},
                     {"stroke-dasharray", DashText(pStyle)}});
 }

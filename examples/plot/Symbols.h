@@ -12,8 +12,10 @@ namespace plot {
 
 inline constexpr std::int32_t kNoPattern = 1;
 inline constexpr std::int32_t kLastPattern = 7;
-inline constexpr std::int32_t kDisk = 2;  // the symbol
 inline constexpr std::int32_t kLastSymbol = 12;
+
+// Of a value that stands alone where a line would be: a disk somewhat wider than the line.
+qzbase::TCurveStyle DotStyle(const qzbase::TCurveStyle& pStyle);
 
 bool HasLine(const qzbase::TCurveStyle& pStyle);
 bool HasSymbol(const qzbase::TCurveStyle& pStyle);

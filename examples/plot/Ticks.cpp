@@ -30,7 +30,8 @@ bool HasDecade(Range pRange) {
 }
 
 std::u16string Zeros(double pCount) {
-  return std::u16string(static_cast<std::size_t>(std::clamp(pCount, 0.0, 14.0)), u'0');
+  constexpr double kMost = 14;
+  return std::u16string(pCount > 0 ? static_cast<std::size_t>(std::min(pCount, kMost)) : 0, u'0');
 }
 
 }  // namespace
