@@ -9,6 +9,7 @@
 #include "qzbase/core/QZVarType.h"
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/text/GCConvert.h"
+#include "qzbase/text/GCStrings.h"
 
 using namespace qzbase;
 
@@ -108,6 +109,7 @@ std::vector<Curve> CurvesOf(const CLayoutGraph& pLayout, const CTable& pTable) {
     const std::vector<double> y = ColumnValues(pTable, column, pLayout.AxisIsLog(YAxis));
     Curve& curve = curves.emplace_back();
     curve.name = desc.Name();
+    if (pLayout.AxisUnit(YAxis).empty()) curve.name += GCStrings::FormatUnit(desc.Unit());
     curve.style = pLayout.CurveStyle(static_cast<std::int32_t>(curves.size()));
     curve.points.reserve(y.size());
     for (std::size_t i = 0; i < std::min(x.size(), y.size()); ++i) curve.points.push_back({x[i], y[i]});

@@ -15,7 +15,7 @@
 namespace plot {
 
 struct Curve {
-  std::u16string name;
+  std::u16string name;  // with its unit where the axis has none
   qzbase::TCurveStyle style;
   std::vector<Point> points;  // values; not-a-number where one is missing or, on a logarithmic axis, not positive
 };

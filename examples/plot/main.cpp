@@ -1,8 +1,8 @@
 // Draws the series of a file of comma-separated values as an SVG picture, by a graph layout.
 //
 //   plot FILE.csv OUTPUT.svg [OPTION...]     the first column is X: numbers or dates
-//     --title=TEXT  --caption=TEXT  --unit=TEXT     of the graph and its Y axis
-//     --log  --reverse                              the Y axis
+//     --title=TEXT  --caption=TEXT     of the graph and its Y axis
+//     --log  --reverse                 the Y axis
 //   plot --samples OUTPUT.svg                what the codes of a layout mean here
 #include <cstdio>
 #include <exception>
@@ -15,8 +15,8 @@
 
 #include "examples/plot/Plot.h"
 #include "examples/plot/Samples.h"
-#include "examples/plot/TableFromCsv.h"
 #include "examples/support/Files.h"
+#include "examples/support/TableFromCsv.h"
 #include "qzbase/os/Utf8.h"
 
 using namespace qzbase;
@@ -25,6 +25,16 @@ namespace {
 
 constexpr double kWidth = 900;
 constexpr double kHeight = 520;
+
+// The unit of all columns behind the first, empty where they differ.
+std::u16string CommonUnit(const CTable& pTable) {
+  constexpr std::int32_t kFirst = 2;
+  if (pTable.NrCols() < kFirst) return {};
+  const std::u16string& unit = pTable.ColDescRef(kFirst)->Unit();
+  for (std::int32_t column = kFirst + 1; column <= pTable.NrCols(); ++column)
+    if (pTable.ColDescRef(column)->Unit() != unit) return {};
+  return unit;
+}
 
 // The layout of a table without options: every choice left to the host, the grid shown.
 Ref<CLayoutGraph> LayoutOf(const CTable& pTable) {
@@ -38,6 +48,8 @@ Ref<CLayoutGraph> LayoutOf(const CTable& pTable) {
   if (pTable.NrCols() == 0) return layout;
   layout->LetAxisType(XAxis, pTable.ColDescRef(1)->VarType());
   layout->LetAxisCaption(XAxis, pTable.ColDescRef(1)->Name());
+  layout->LetAxisUnit(XAxis, pTable.ColDescRef(1)->Unit());
+  layout->LetAxisUnit(YAxis, CommonUnit(pTable));
   layout->LetNrCurveStyles(pTable.NrCols() - 1);
   return layout;
 }
@@ -50,8 +62,6 @@ void Apply(CLayoutGraph& pLayout, const std::string& pOption) {
     pLayout.LetTitle(text);
   else if (name == "--caption")
     pLayout.LetAxisCaption(YAxis, text);
-  else if (name == "--unit")
-    pLayout.LetAxisUnit(YAxis, text);
   else if (name == "--log")
     pLayout.LetAxisIsLog(YAxis, true);
   else if (name == "--reverse")
@@ -88,8 +98,8 @@ void Run(const std::vector<std::string>& pArguments, std::string& pAtWork) {
   pAtWork = pArguments[1];
   if (pArguments[0] == "--samples") return WritePicture(pArguments[1], plot::SamplesSvg());
   pAtWork = pArguments[0];
-  Ref<CTable> table = TableFromCsv(ParseCsv(ReadFile(pArguments[0])));
-  table->LetID(os::FromUtf8(std::filesystem::path(pArguments[0]).stem().string()));
+  const std::u16string name = os::FromUtf8(std::filesystem::path(pArguments[0]).stem().string());
+  Ref<CTable> table = TableFromCsv(ParseCsv(ReadFile(pArguments[0])), name);
   Ref<CLayoutGraph> layout = LayoutOf(*table);
   for (std::size_t i = 2; i < pArguments.size(); ++i) Apply(*layout, pAtWork = pArguments[i]);
   SaveAndLoad(layout, table);

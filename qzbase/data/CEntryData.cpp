@@ -122,6 +122,7 @@ void CEntryData::DeleteRow(std::int32_t pIdx) {
 // Every column must have all rows before the first one moves.
 std::vector<std::span<Variant>> CEntryData::RowsOfColumns() const {
   std::vector<std::span<Variant>> columns;
+  columns.reserve(static_cast<std::size_t>(std::max(NrCols(), 0)));
   for (std::int32_t i = 1; i <= NrCols(); ++i) {
     CVector& column = ColumnAt(i);
     if (column.Size() < nrRows_) Raise(RuntimeError::SubscriptOutOfRange);
