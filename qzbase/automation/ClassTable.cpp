@@ -27,6 +27,7 @@ extern template struct RoomEntries<TextClasses>;
 extern template struct RoomEntries<PersistClasses>;
 extern template struct RoomEntries<DescClasses>;
 extern template struct RoomEntries<DataClasses>;
+extern template struct RoomEntries<LayoutClasses>;
 extern template struct RoomEntries<PlatformClasses>;
 
 namespace {
@@ -38,9 +39,12 @@ using runtime::Ref;
 using runtime::RuntimeError;
 using runtime::Variant;
 
-constexpr std::span<const ClassEntry> kRooms[] = {
-    RoomEntries<CoreClasses>::kEntries, RoomEntries<TextClasses>::kEntries, RoomEntries<PersistClasses>::kEntries,
-    RoomEntries<DescClasses>::kEntries, RoomEntries<DataClasses>::kEntries, RoomEntries<PlatformClasses>::kEntries};
+template <class... Room>
+constexpr std::array<std::span<const ClassEntry>, sizeof...(Room)> EntriesOf(TypeList<Room...>) {
+  return {RoomEntries<Room>::kEntries...};
+}
+
+constexpr auto kRooms = EntriesOf(Rooms());
 
 // All classes, and a hash table of their types. Types are looked up by address: within one program a type has one.
 class ClassList {

@@ -18,6 +18,8 @@ class GCMath;
 class GCStrings;
 class GCConvert;
 class GCBase;
+class GCRegistry;
+class GCFileUtil;
 class CBuffer;
 class CDblVector;
 class CLngVector;
@@ -36,6 +38,9 @@ class TEntryDesc;
 class CVarDescs;
 class CEntryDescs;
 class CTypedInfo;
+class CLayoutGraph;
+class CLayoutGraph3D;
+class CLayoutTable;
 
 struct TErrDesc;
 struct TErrIndex;
@@ -82,6 +87,12 @@ template <> inline constexpr Identity identity<GCConvert> = GlobalClass("GCConve
 template <> inline constexpr Identity identity<GCBase> = GlobalClass("GCBase",
     "343E5B0A-A06B-4740-ABE1-4E12309B912A", "946CB5C2-4C21-4043-88AE-E78344277F58",
     "Makes descriptors and vectors; facts and services of the system.");
+template <> inline constexpr Identity identity<GCRegistry> = GlobalClass("GCRegistry",
+    "E7189813-BE36-4B3E-BF63-B20BCA9DE8B8", "C7EAE775-9E7D-437F-9878-17A364E89802",
+    "Settings in the registry store: buffers, numbers and texts.");
+template <> inline constexpr Identity identity<GCFileUtil> = GlobalClass("GCFileUtil",
+    "F731EB64-BAAE-4126-AB75-B336A72C13DF", "6BCC86B2-190E-445B-A0D8-721624ABF6C8",
+    "Names of files, and small services of the file system.");
 template <> inline constexpr Identity identity<CBuffer> = ObjectClass("CBuffer",
     "6565B8DF-CA64-49A4-82C1-091CD789EC5B", "0ED1242A-4D87-4FDE-B3EA-D773E0D5E0BD",
     "A tagged buffer of bytes in which every object saves and loads itself.");
@@ -136,6 +147,15 @@ template <> inline constexpr Identity identity<CEntryDescs> = ObjectClass("CEntr
 template <> inline constexpr Identity identity<CTypedInfo> = ObjectClass("CTypedInfo",
     "0FE5B71B-51A0-4639-8764-F8B1F304190A", "01014518-ABB5-4ECD-91CE-8D58CB5D7C5A",
     "A list of values, each with its descriptor.");
+template <> inline constexpr Identity identity<CLayoutGraph> = ObjectClass("CLayoutGraph",
+    "8FCF2084-B110-4172-AF7D-46EFE051E15A", "2E99BF19-FD3E-4155-B8ED-2CE3D82D21EB",
+    "How a graph is drawn.");
+template <> inline constexpr Identity identity<CLayoutGraph3D> = ObjectClass("CLayoutGraph3D",
+    "5AC58052-B81C-480A-AF1C-090B4DF7EE06", "A7588BA3-49A5-4DD8-B543-3C96DC8901CA",
+    "How a surface or contour graph is drawn.");
+template <> inline constexpr Identity identity<CLayoutTable> = ObjectClass("CLayoutTable",
+    "5F7D93D4-B37A-45AA-AC13-A3C0493A7A40", "46B91459-FF33-4D8A-A0C8-2BC2ED0B18AC",
+    "How a table is shown.");
 
 template <> inline constexpr Identity identity<TErrDesc> = RecordNamed("TErrDesc",
     "89FD365E-0127-48BE-9771-30964EA46B62", "A registered error.");
@@ -176,12 +196,15 @@ template <> inline constexpr Identity identity<GraphType3D> = EnumerationNamed("
 // Classes by room: the tables of a room are compiled together.
 using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
-using PersistClasses = TypeList<CBuffer>;
+using PersistClasses = TypeList<CBuffer, GCRegistry>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector>;
-using PlatformClasses = TypeList<GCBase>;
+using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors>;
+using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
+using PlatformClasses = TypeList<GCBase, GCFileUtil>;
 
-using AllClasses = JoinLists<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>;
+using Rooms =
+    TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses, PlatformClasses>;
+using AllClasses = JoinLists<Rooms>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =
     TypeList<QZVarType, QZCtrlType, QZColor, TRegKey, GraphLabel, GraphAxis, BorderType, GraphType3D>;

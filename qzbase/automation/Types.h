@@ -107,8 +107,11 @@ struct Joined<TypeList<T...>, TypeList<U...>, List...> : Joined<TypeList<T..., U
 
 }  // namespace detail
 
-template <class... List>
-using JoinLists = typename detail::Joined<List...>::Type;
+// The members of all lists of a list.
+template <class Lists>
+using JoinLists = typename decltype([]<class... List>(TypeList<List...>) {
+  return detail::Joined<List...>{};
+}(Lists()))::Type;
 
 // The parts of a member function, static function or free function.
 template <class Function>

@@ -89,7 +89,6 @@ class BlockStorage {
 
  private:
   static constexpr std::size_t kFirstSlots = 4;
-  static inline const T kZero{};
 
   static std::size_t Offset(std::int32_t pIndex) noexcept { return static_cast<std::size_t>(pIndex) - 1; }
   auto At(std::int32_t pIndex) { return slots_.begin() + (pIndex - 1); }
@@ -100,7 +99,8 @@ class BlockStorage {
 
   SlotValue Unwritten(std::int32_t pIndex) const {
     CheckIndex(pIndex);
-    return kZero;
+    static const T zero{};
+    return zero;
   }
 
   void ResizeStorage() {

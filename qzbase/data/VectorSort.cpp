@@ -73,8 +73,12 @@ void SortElements(std::span<std::u16string> pElements, bool pAscending) {
 }
 
 Order CompareInSort(const Variant& pLeft, const Variant& pRight, CaseRule pCase, const LocaleRules& pRules) {
-  if (pLeft.IsEmpty() && pRight.If<std::u16string>()) return Order::Less;
-  if (pLeft.If<std::u16string>() && pRight.IsEmpty()) return Order::Greater;
+  const bool isLeftText = pLeft.Kind() == VariantKind::String;
+  if (isLeftText != (pRight.Kind() == VariantKind::String)) {
+    const Variant& other = isLeftText ? pRight : pLeft;
+    if (runtime::CompareExact(other, other, pRules) == Order::Unknown) return Order::Unknown;
+    return isLeftText ? Order::Greater : Order::Less;
+  }
   return pCase == CaseRule::CaseSensitive ? runtime::CompareExact(pLeft, pRight, pRules)
                                           : runtime::Compare(pLeft, pRight, pCase, pRules);
 }

@@ -36,9 +36,9 @@ void SortElements(std::span<std::u16string> pElements, bool pAscending);
 // sorted then, it and those behind it unchanged.
 void SortElements(std::span<runtime::Variant> pElements, bool pAscending);
 
-// How two variants stand to each other when they sort: as they compare (runtime/Compare.h), but that an empty one is
-// the number 0 beside a text too, so that there is one order among all. Texts compare exactly, or by text comparison
-// when case is to be ignored.
+// How two variants stand to each other when they sort: as they compare (runtime/Compare.h), but that there is one order
+// among all: an empty one is the number 0 beside a text too, and not-a-number has no order to texts either. Texts
+// compare exactly, or by text comparison when case is to be ignored.
 runtime::Order CompareInSort(const runtime::Variant& pLeft, const runtime::Variant& pRight,
                              runtime::CaseRule pCase = runtime::CaseRule::CaseSensitive,
                              const runtime::LocaleRules& pRules = runtime::ThreadLocale());

@@ -13,9 +13,16 @@
 //   CopyFields(*this, pSource, kFields);
 //   EqualFields(*this, pCompare, kFields);    texts by text comparison; stops at the first difference
 //
-// A field whose record is not the one of its type is wrapped: `AsColor(&TLabelStyle::ForeColor)`.
+// A field whose record is not the one of its type is wrapped: `AsColor(&TLabelStyle::ForeColor)`. Arrays save their
+// elements one by one. A structure is a field too, where its own fields are said as its block:
+//
+//   template <>
+//   inline constexpr auto blockOf<TCurveStyle> = Block(u"Style#1", Fields(&TCurveStyle::Color, ...));
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -136,33 +143,86 @@ constexpr std::tuple<Field...> Fields(Field... pFields) {
   return {pFields...};
 }
 
+template <class Owner, class... Field>
+void SaveFields(CBuffer& pBuffer, const Owner& pOwner, const std::tuple<Field...>& pFields);
+template <class Owner, class... Field>
+void LoadFields(CBuffer& pBuffer, Owner& pOwner, const std::tuple<Field...>& pFields);
+template <class Owner, class... Field>
+bool EqualFields(const Owner& pLeft, const Owner& pRight, const std::tuple<Field...>& pFields);
+
+// ---- Structures.
+
+// A tag for the frame, none for a structure without one, and the fields.
+template <class List>
+struct Block {
+  std::u16string_view tag;
+  List fields;
+  constexpr Block(std::u16string_view pTag, List pFields) : tag(pTag), fields(pFields) {}
+};
+
+template <class T>
+inline constexpr auto blockOf = nullptr;
+
+template <class T>
+concept IsBlock = !std::is_null_pointer_v<std::remove_const_t<decltype(blockOf<T>)>>;
+
+template <IsBlock T>
+void SaveField(CBuffer& pBuffer, const T& pValue) {
+  const auto save = [&](CBuffer& pInto) { SaveFields(pInto, pValue, blockOf<T>.fields); };
+  blockOf<T>.tag.empty() ? save(pBuffer) : SaveRecord(&pBuffer, true, blockOf<T>.tag, save);
+}
+template <IsBlock T>
+void LoadField(CBuffer& pBuffer, T& pValue) {
+  const auto load = [&](CBuffer& pFrom) { LoadFields(pFrom, pValue, blockOf<T>.fields); };
+  blockOf<T>.tag.empty() ? load(pBuffer) : LoadRecord(&pBuffer, true, load);
+}
+template <IsBlock T>
+bool EqualField(const T& pLeft, const T& pRight) {
+  return EqualFields(pLeft, pRight, blockOf<T>.fields);
+}
+
+// ---- Arrays.
+
+template <class T, std::size_t kSize>
+void SaveField(CBuffer& pBuffer, const std::array<T, kSize>& pValues) {
+  for (const T& value : pValues) SaveField(pBuffer, value);
+}
+template <class T, std::size_t kSize>
+void LoadField(CBuffer& pBuffer, std::array<T, kSize>& pValues) {
+  for (T& value : pValues) LoadField(pBuffer, value);
+}
+template <class T, std::size_t kSize>
+bool EqualField(const std::array<T, kSize>& pLeft, const std::array<T, kSize>& pRight) {
+  return std::equal(pLeft.begin(), pLeft.end(), pRight.begin(),
+                    [](const T& pOne, const T& pOther) { return EqualField(pOne, pOther); });
+}
+
+// ---- The lists again.
+
 namespace detail {
 
-template <class Owner, class T>
-constexpr T Owner::*Pointer(T Owner::*pField) {
-  return pField;
-}
-template <class Field>
-constexpr auto Pointer(const Field& pField) {
-  return pField.field;
+template <class Owner, class Field>
+auto& FieldOf(Owner& pOwner, const Field& pField) {
+  if constexpr (std::is_member_object_pointer_v<Field>)
+    return pOwner.*pField;
+  else
+    return pOwner.*pField.field;
 }
 
-template <class Owner, class T>
-void SaveOne(CBuffer& pBuffer, const Owner& pOwner, T Owner::*pField) {
-  SaveField(pBuffer, pOwner.*pField);
-}
 template <class Owner, class Field>
 void SaveOne(CBuffer& pBuffer, const Owner& pOwner, const Field& pField) {
-  pField.Save(pBuffer, pOwner);
+  if constexpr (std::is_member_object_pointer_v<Field>)
+    SaveField(pBuffer, pOwner.*pField);
+  else
+    pField.Save(pBuffer, pOwner);
 }
 
-template <class Owner, class T>
-void LoadOne(CBuffer& pBuffer, Owner& pOwner, T Owner::*pField) {
-  LoadField(pBuffer, pOwner.*pField);
-}
 template <class Owner, class Field>
 void LoadOne(CBuffer& pBuffer, Owner& pOwner, const Field& pField) {
-  pField.Load(pBuffer, pOwner);
+  if constexpr (std::is_member_object_pointer_v<Field>)
+    LoadField(pBuffer, pOwner.*pField);
+  else
+    pField.Load(pBuffer, pOwner);
 }
 
 }  // namespace detail
@@ -179,7 +239,7 @@ void LoadFields(CBuffer& pBuffer, Owner& pOwner, const std::tuple<Field...>& pFi
 
 template <class Owner, class... Field>
 void CopyFields(Owner& pTo, const Owner& pFrom, const std::tuple<Field...>& pFields) {
-  std::apply([&](const auto&... field) { ((pTo.*detail::Pointer(field) = pFrom.*detail::Pointer(field)), ...); },
+  std::apply([&](const auto&... field) { ((detail::FieldOf(pTo, field) = detail::FieldOf(pFrom, field)), ...); },
              pFields);
 }
 
@@ -187,7 +247,7 @@ template <class Owner, class... Field>
 bool EqualFields(const Owner& pLeft, const Owner& pRight, const std::tuple<Field...>& pFields) {
   return std::apply(
       [&](const auto&... field) {
-        return (EqualField(pLeft.*detail::Pointer(field), pRight.*detail::Pointer(field)) && ...);
+        return (EqualField(detail::FieldOf(pLeft, field), detail::FieldOf(pRight, field)) && ...);
       },
       pFields);
 }

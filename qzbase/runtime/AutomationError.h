@@ -30,6 +30,7 @@ enum class RuntimeError : std::int32_t {
   PathFileAccess = 75,
   PathNotFound = 76,
   ObjectNotSet = 91,
+  InvalidPattern = 93,
   InvalidUseOfNull = 94,
   CannotCreateObject = 429,
   MemberNotFound = 438,

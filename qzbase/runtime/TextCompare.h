@@ -24,6 +24,11 @@ inline bool EqualText(std::u16string_view pLeft, std::u16string_view pRight,
 std::size_t FindText(std::u16string_view pText, std::u16string_view pSought, std::size_t pStart = 0,
                      const LocaleRules& pRules = ThreadLocale());
 
+// Whether a single character sorts from "0" to "9".
+inline bool IsDigitText(std::u16string_view pCharacter, const LocaleRules& pRules = ThreadLocale()) {
+  return CompareText(pCharacter, u"0", pRules) >= 0 && CompareText(pCharacter, u"9", pRules) <= 0;
+}
+
 // Names of members, formats and literals: the letters A to Z ignore case, everything else is exact, in every locale.
 bool EqualName(std::u16string_view pLeft, std::u16string_view pRight) noexcept;
 

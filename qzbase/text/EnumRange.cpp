@@ -44,11 +44,6 @@ void CheckBounds(const runtime::Array<T>& pArray) {
   static_cast<void>(pArray.LowerBound());
 }
 
-bool HasBraces(std::u16string_view pRange) {
-  return pRange.size() >= 2 && runtime::EqualText(pRange.substr(0, 1), u"{") &&
-         runtime::EqualText(pRange.substr(pRange.size() - 1), u"}");
-}
-
 // Whether all items are single values, as far as braces and brackets tell.
 bool HoldsValues(std::u16string_view pRange) {
   return HasBraces(pRange) && pRange.find(u'[') == std::u16string_view::npos;
@@ -122,6 +117,11 @@ std::int32_t ParseValueList(std::u16string_view List, runtime::Array<double>& Va
   if (values.empty()) values.push_back(0);
   Value = runtime::Array<double>(1, std::move(values));
   return count;
+}
+
+bool HasBraces(std::u16string_view Range) {
+  return Range.size() >= 2 && runtime::EqualText(Range.substr(0, 1), u"{") &&
+         runtime::EqualText(Range.substr(Range.size() - 1), u"}");
 }
 
 bool IsMember(std::u16string_view Value, std::u16string_view Range) {

@@ -42,6 +42,9 @@ std::u16string EnumVal(std::int32_t ItemNr, std::u16string_view Range);
 std::u16string MakeValueList(const runtime::Array<double>& Value);
 std::int32_t ParseValueList(std::u16string_view List, runtime::Array<double>& Value);
 
+// Whether the range stands between braces, whatever is in it.
+bool HasBraces(std::u16string_view Range);
+
 // Whether the value is an item, by text comparison. A value with ";" in it may be several items in a row.
 bool IsMember(std::u16string_view Value, std::u16string_view Range);
 

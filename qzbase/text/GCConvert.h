@@ -1,8 +1,8 @@
 // Values to texts and texts to values, checked.
 //
-//   GCConvert::CheckValueED(text, *desc);                          what the user typed for this entry: raises what is
-//   wrong value = GCConvert::StringToValueVD(text, *desc->VarDesc());    the text is a value now text =
-//   GCConvert::ValueToStringVD(value, *desc->VarDesc());    and is shown like this
+//   GCConvert::CheckValueED(text, *desc);                          raises what is wrong with the text for this entry
+//   value = GCConvert::StringToValueVD(text, *desc->VarDesc());    the text is a value now
+//   text = GCConvert::ValueToStringVD(value, *desc->VarDesc());    and is shown like this
 //
 // All go by the thread's locale. Texts of numbers that are not localised (`pLocalize`, `pLocalized`) have "." as
 // decimal delimiter everywhere. "~" is the text of no value.

@@ -12,13 +12,10 @@ namespace {
 
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
-// How many characters in front of the trailing digits; a digit is what sorts from "0" to "9".
+// How many characters in front of the trailing digits.
 std::size_t RootLength(std::u16string_view pName) {
   std::size_t length = pName.size();
-  const auto isDigit = [](std::u16string_view pCharacter) {
-    return runtime::CompareText(pCharacter, u"0") >= 0 && runtime::CompareText(pCharacter, u"9") <= 0;
-  };
-  while (length > 0 && isDigit(pName.substr(length - 1, 1))) --length;
+  while (length > 0 && runtime::IsDigitText(pName.substr(length - 1, 1))) --length;
   return length;
 }
 

@@ -36,8 +36,8 @@ std::u16string HumanReadable(std::u16string_view Range);
 
 // Whether a number lies in the interval `Range`, bounds included, and, unless the step is empty or 0, on the grid of
 // steps from the lower bound, as far as a number's text shows (15 digits). An empty range allows everything; a range
-// that is no interval is read as one number, which the value must equal (so ">=5" is 0). Raises error 6 where the
-// division by the step overflows.
+// that is no interval is read as one number, which the value must equal (so ">=5", "{1;2}" and "*" too are 0). Raises
+// error 6 where the division by the step overflows.
 bool IsInRange(double Value, std::u16string_view Range, std::u16string_view Step);
 
 }  // namespace qzbase::ModString

@@ -24,11 +24,11 @@ using runtime::ReadResult;
 
 constexpr std::size_t kNotFound = std::u16string_view::npos;
 
-// Whether the text says that there is no value, which must be allowed.
+// Whether the text says that there is no value, and that is allowed; raises where it is not.
 bool IsNoValue(std::u16string_view pValue, bool pAllowInvalid) {
   if (pValue != kInvalidString) return false;
   if (!pAllowInvalid) RaiseBuiltIn(BuiltInError::InValue);
-  return true;
+  return pAllowInvalid;
 }
 
 bool Holds(std::u16string_view pText, std::u16string_view pDelimiter) {
@@ -108,10 +108,6 @@ bool IsAllowed(std::u16string_view pValue, QZVarType pVarType, std::u16string_vi
   return true;
 }
 
-bool IsInBraces(std::u16string_view pRange) {
-  return pRange.starts_with(u'{') && pRange.ends_with(u'}');
-}
-
 }  // namespace
 
 void CheckDouble(std::u16string_view pValue, bool pAllowInvalid, bool pLocalized, const LocaleRules& pRules) {
@@ -142,11 +138,11 @@ std::int32_t CheckNrOutFormat(std::u16string_view pFormat) {
 }
 
 bool IsBooleanRange(std::u16string_view pRange) {
-  return IsInBraces(pRange) && std::count(pRange.begin(), pRange.end(), u';') == 1;
+  return ModString::HasBraces(pRange) && std::count(pRange.begin(), pRange.end(), u';') == 1;
 }
 
 bool IsEnumRange(std::u16string_view pRange) {
-  return IsInBraces(pRange);
+  return ModString::HasBraces(pRange);
 }
 
 }  // namespace qzbase::ModConvert

@@ -41,7 +41,8 @@ std::u16string DoubleToString(double pValue, std::u16string_view pFormat = {}, b
 
 // Rounds halves away from zero at the last figure and shows as many decimals as there are figures behind the point. The
 // digits before the point are counted by the logarithm cut towards zero, so that a magnitude below 1 shows one figure
-// fewer (0.0123 with 3 figures is "0.012"). Raises error 6 where the numbers grow too large, 11 where they vanish.
+// fewer (0.0123 with 3 figures is "0.012") unless it is a power of ten (0.01 is "0.0100"). Raises error 6 where the
+// numbers grow too large, 11 where they vanish.
 std::u16string DoubleToStringSF(double pValue, std::int32_t pSigFigs,
                                 const runtime::LocaleRules& pRules = runtime::ThreadLocale());
 

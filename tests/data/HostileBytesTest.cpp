@@ -7,8 +7,11 @@
 
 #include "qzbase/data/CBoolVector.h"
 #include "qzbase/data/CDblVector.h"
+#include "qzbase/data/CDblVectors.h"
 #include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CObjVector.h"
 #include "qzbase/data/CStrVector.h"
+#include "qzbase/data/CVector.h"
 #include "qzbase/desc/CTypedInfo.h"
 #include "qzbase/desc/CVarDescs.h"
 #include "qzbase/runtime/Locale.h"
@@ -40,6 +43,9 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &Load<CLngVector>,
                                             &Load<CStrVector>,
                                             &Load<CBoolVector>,
+                                            &Load<CVector>,
+                                            &Load<CDblVectors>,
+                                            &Load<CObjVector>,
                                             &Load<TVarDesc>,
                                             &Load<TCtrlDesc>,
                                             &Load<TEntryDesc>,
@@ -53,7 +59,7 @@ void LoadWithEverything(const Bytes& pBytes, const std::string& pWhat) {
                                             &ReadFirst<&CBuffer::NextBoolean>,
                                             &ReadFirst<&CBuffer::GetString>};
   static const std::set<std::int32_t> kDocumented = {
-      0, kInvalidArgument, kOverflow, kOutOfMemory, kSubscript, NumberOf(BuiltInError::InvVarType)};
+      0, kInvalidArgument, kOverflow, kOutOfMemory, kSubscript, kObjectNotSet, NumberOf(BuiltInError::InvVarType)};
   CBuffer buffer;
   for (std::size_t i = 0; i < std::size(kLoaders); ++i) {
     buffer.LetByteArray({0, pBytes});
@@ -73,6 +79,13 @@ constexpr std::pair<const char*, const char*> kGolden[] = {
     {"CLngVector", "/VE#1;3;7;-2147483636;2147483647;\\VE;"},
     {"CStrVector", "/VE#1;4;a;b;~;;\u00C4\u4E2D;\\VE;"},
     {"CBoolVector", "/VE#1;3;True;False;True;\\VE;"},
+    {"CVector",
+     "/VE#1;3;True;False;True;\\VE;\n/VE#1;4;1.5;2;2.5;0;\\VE;\n/VE#1;3;2;3;-1;\\VE;"
+     "\n/VE#1;3;a;\u00C4\u4E2D;2,5;False;\\VE;\n/VE#1;2;01.01.1900 12:00:00;02.01.1900 00:00:00;\\VE;"
+     "\n/VE#1;1;7;\\VE;\n/VE#1;2;\\VE;\n/VE#1;1;\\VE;\n/VE#1;5;7;x;01.01.1900 00:00:00;1.5;\\VE;"
+     "\n/VE#1;1;255;\\VE;"},
+    {"CObjVector", "/VO#1;2;first;one;;\n/DblVectors#1;0;\\DblVectors;\\VO;"},
+    {"CDblVectors", "/DblVectors#1;3;\n/VE#1;2;1;2;\\VE;\n/VE#1;0;\\VE;\n/VE#1;2;1;2;\\VE;\\DblVectors;"},
     {"TVarDesc.1", "/VD#1;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;\\VD;"},
     {"TVarDesc", "/VD#2;Temp;Temperature;\u00B0C;2;0.00;True;A*B;255;app;True;\\VD;"},
     {"TCtrlDesc.1", "/CD#1;Temp;2;False;1200;False;True;True;True;\\CD;"},

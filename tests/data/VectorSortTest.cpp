@@ -1,4 +1,5 @@
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <random>
 #include <vector>
@@ -9,18 +10,21 @@
 #include "qzbase/data/VectorSort.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/Corpus.h"
+#include "tests/support/CorpusValue.h"
 #include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
 
+using runtime::Variant;
+
 // The sort that defines the order, word by word.
-template <class T>
-std::vector<T> InsertionSorted(const std::vector<T>& pValues, bool pAscending) {
+template <class T, class Greater>
+std::vector<T> InsertionSorted(const std::vector<T>& pValues, bool pAscending, Greater pGreater) {
   std::vector<T> sorted;
   for (const T& value : pValues) {
     auto place = sorted.begin();
-    while (place != sorted.end() && !(pAscending ? *place > value : *place < value)) ++place;
+    while (place != sorted.end() && !(pAscending ? pGreater(*place, value) : pGreater(value, *place))) ++place;
     sorted.insert(place, value);
   }
   return sorted;
@@ -33,20 +37,42 @@ std::string Shown(const std::vector<double>& pValues) {
   return text;
 }
 
+std::string Shown(const std::vector<Variant>& pValues) {
+  std::string text;
+  for (const Variant& value : pValues) text += CorpusValueText(value) + ' ';
+  return text;
+}
+
+// Lists of these values in any order and number.
+template <class T, class Greater>
+void ExpectInsertionSort(const std::vector<T>& pFrom, int pRounds, Greater pGreater) {
+  std::mt19937 random(1);
+  for (int round = 0; round < pRounds; ++round) {
+    std::vector<T> values(random() % 12);
+    for (T& value : values) value = pFrom[random() % pFrom.size()];
+    for (const bool ascending : {true, false}) {
+      std::vector<T> sorted = values;
+      SortElements(sorted, ascending);
+      ASSERT_EQ(Shown(sorted), Shown(InsertionSorted(values, ascending, pGreater))) << Shown(values);
+    }
+  }
+}
+
 TEST(SortElements, OrdersAnythingAsTheInsertionSortDoes) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-  constexpr double kValues[] = {kNaN, -kNaN, 0.0, -0.0, kInfinity, -kInfinity, 1, 2, 3, -1, kNaN, 1};
-  std::mt19937 random(1);
-  for (int round = 0; round < 20'000; ++round) {
-    std::vector<double> values(random() % 12);
-    for (double& value : values) value = kValues[random() % std::size(kValues)];
-    for (const bool ascending : {true, false}) {
-      std::vector<double> sorted = values;
-      SortElements(sorted, ascending);
-      ASSERT_EQ(Shown(sorted), Shown(InsertionSorted(values, ascending))) << Shown(values);
-    }
-  }
+  ExpectInsertionSort<double>({kNaN, -kNaN, 0.0, -0.0, kInfinity, -kInfinity, 1, 2, 3, -1, kNaN, 1}, 20'000,
+                              std::greater<>());
+  ExpectInsertionSort<Variant>(
+      {{}, 0, 1.0, true, u"", u"B", u"a", runtime::Null(), runtime::Date{1}, kNaN}, 2'000,
+      [](const auto& pLeft, const auto& pRight) { return CompareInSort(pLeft, pRight) == runtime::Order::Greater; });
+}
+
+TEST(SortElements, SortsWhatStandsBeforeAnObject) {
+  std::vector<Variant> values = {u"a", u"B", nullptr, 1};
+  EXPECT_EQ(ErrorOf([&] { SortElements(values, true); }), kTypeMismatch);
+  values.resize(2);
+  EXPECT_EQ(Shown(values), "BSTR:B BSTR:a ");
 }
 
 TEST(SortElements, RewritesTextsAsWholeNumbers) {

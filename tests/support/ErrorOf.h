@@ -20,6 +20,7 @@ inline constexpr std::int32_t kOutOfMemory = NumberOf(runtime::RuntimeError::Out
 inline constexpr std::int32_t kSubscript = NumberOf(runtime::RuntimeError::SubscriptOutOfRange);
 inline constexpr std::int32_t kDivisionByZero = NumberOf(runtime::RuntimeError::DivisionByZero);
 inline constexpr std::int32_t kTypeMismatch = NumberOf(runtime::RuntimeError::TypeMismatch);
+inline constexpr std::int32_t kObjectNotSet = NumberOf(runtime::RuntimeError::ObjectNotSet);
 
 inline std::int32_t NumberOf(BuiltInError pError) {
   return ModError::ErrCodeOf(ModError::IndexOf(pError));

@@ -1,6 +1,7 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -93,7 +94,7 @@ TEST_F(Converting, DelimitersAndPatternsOfTheLocale) {
     EXPECT_EQ(GCConvert::WindowsTimeFormat(), u"HH:NN");
     EXPECT_EQ(ToUtf8(GCConvert::DoubleToString(1234.5, u"#,##0.0")), row.number);
     EXPECT_EQ(ToUtf8(GCConvert::DoubleToString(1234.5, u"#,##0.0", false)), row.plain);
-    EXPECT_EQ(GCConvert::StringToDouble(GCConvert::DoubleToString(0.5, u"SF3", false), false), 0.5);
+    EXPECT_EQ(GCConvert::DoubleToString(0.5, u"SF3", false), u"0.50");
   }
   os::LocaleRules shortYear = TestLocale("sv-SE");
   shortYear.shortDate = u"yy-MM-dd";
@@ -122,6 +123,7 @@ TEST_F(Converting, ChecksByTypeAndRange) {
               {u"low", EVTEnum, u"", u"", u"{Low;High}", range},
               {u"", EVTString, u"", u"", u"", 0},
               {u"", EVTString, u"{*;a}", u"", u"", 0},
+              {u"", EVTString, u"{a;*}", u"", u"", 0},
               {u"x", EVTString, u"*", u"", u"", 0},
               {u"", EVTString, u"*", u"", u"", empty},
               {u"B", EVTString, u"abc", u"", u"", 0},
@@ -145,6 +147,12 @@ TEST_F(Converting, ChecksByTypeAndRange) {
   desc.LetRange(u"[0;1]");
   EXPECT_EQ(ErrorOf([&] { GCConvert::CheckValueED(u"5", desc); }), range);
   EXPECT_EQ(runtime::LastError().description, u"5 [0;1]");
+
+  std::int32_t& code = ModError::Registry().Entry(ModError::IndexOf(BuiltInError::InValue).Value).Code;
+  const std::int32_t kept = std::exchange(code, 0);  // the error raises nothing now, and the check goes on
+  EXPECT_EQ(ErrorOf([] { GCConvert::CheckLong(u"~", false); }), format);
+  EXPECT_EQ(ErrorOf([] { GCConvert::CheckValue(u"~", EVTDouble, u"", u"", u"", true, false); }), format);
+  code = kept;
 }
 
 TEST_F(Converting, NumbersByTheDelimitersOfTheLocale) {
@@ -172,6 +180,10 @@ TEST_F(Converting, NumbersByTheDelimitersOfTheLocale) {
     EXPECT_EQ(ErrorOf([&] { GCConvert::CheckLong(row.text); }), row.isLong ? 0 : error);
     EXPECT_EQ(GCConvert::StringToDouble(row.text, row.isLocalized), row.number);
   }
+  os::LocaleRules alike = TestLocale("en-US");
+  alike.thousands = alike.decimal;
+  const runtime::ScopedLocale scope(alike);
+  EXPECT_EQ(ErrorOf([] { GCConvert::CheckDouble(u"1.5"); }), 0);
 }
 
 TEST_F(Converting, TextsToValues) {
@@ -196,6 +208,7 @@ TEST_F(Converting, TextsToValues) {
               {u"28.11.", EVTDate, u"DD.MM.YY", kInvalidDate},
               {u"28.Nov.31", EVTDate, u"DD.MMM.YY", kInvalidDate},
               {u"28.11.9999 99999", EVTDate, u"DD.MM.YYYY HHHHH", kInvalidDate},
+              {u"28.11.2031 -99999", EVTDate, u"DD.MM.YYYY HHHHHH", kInvalidDate},
               {u"32.12.9999", EVTDate, u"DD.MM.YYYY", kInvalidDate}};
   for (const auto& row : rows)
     EXPECT_EQ(CorpusValueText(GCConvert::StringToValue(row.text, row.type, row.format)), CorpusValueText(row.expected))

@@ -21,6 +21,7 @@ extern template struct RoomFaces<TextClasses>;
 extern template struct RoomFaces<PersistClasses>;
 extern template struct RoomFaces<DescClasses>;
 extern template struct RoomFaces<DataClasses>;
+extern template struct RoomFaces<LayoutClasses>;
 extern template struct RoomFaces<PlatformClasses>;
 
 namespace {
@@ -50,8 +51,7 @@ std::u16string ProgId(const Face& pFace) {
 }
 
 std::span<const Face* const> AllFaces() {
-  static const auto faces =
-      JoinFaces(TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, PlatformClasses>());
+  static const auto faces = JoinFaces(Rooms());
   return faces;
 }
 

@@ -6,8 +6,11 @@
 #include "qzbase/automation/members/ObjectRows.h"
 #include "qzbase/data/CBoolVector.h"
 #include "qzbase/data/CDblVector.h"
+#include "qzbase/data/CDblVectors.h"
 #include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CObjVector.h"
 #include "qzbase/data/CStrVector.h"
+#include "qzbase/data/CVector.h"
 #include "qzbase/data/TPoint.h"
 
 namespace qzbase::automation {
@@ -16,7 +19,7 @@ template <>
 inline constexpr auto fields<TPoint> = record(field<&TPoint::X>("X", "The abscissa."),
                                               field<&TPoint::Y>("Y", "The ordinate."));
 
-// ---- The typed vectors: the rows that they share, in the order in which they stand.
+// ---- The vectors: the rows that they share, in the order in which they stand.
 
 template <class V>
 inline constexpr auto kVectorType = method<&V::VarType>("VarType", "The value type of the elements.");
@@ -25,18 +28,27 @@ inline constexpr auto kVectorSize = get<&V::Size>("Size", "The number of element
 template <class V>
 inline constexpr auto kLetVectorSize = let<&V::LetSize>("Size");
 
+template <class V>
+inline constexpr auto kVectorText = method<&V::GetString>("GetString", "The elements as a text like (1;2;3).");
+template <class V>
+inline constexpr auto kValue = get<&V::Value>("Value", {"pIndex"}, "The element at an index from 1.");
+template <class V>
+inline constexpr auto kLetValue = let<&V::LetValue>("Value", {"pIndex"});
+
 // `pDefault` is the value that InsertValue takes when none is given.
+template <class V>
+constexpr auto InsertRows(auto pDefault) {
+  return rows(method<&V::InsertValue>("InsertValue", {"pAtPos", opt("pValue", pDefault)},
+                                      "Inserts an element; a position outside appends it."),
+              method<&V::AddValue>("AddValue", {"pValue"}, "Appends an element."));
+}
+
 template <class V>
 constexpr auto ElementRows(auto pDefault) {
   return rows(method<&V::SetFromArray>("SetFromArray", {byRef("InArray")}, "Takes the elements of an array."),
               method<&V::GetArray>("GetArray", "All slots of the storage, which are at least as many as elements."),
               method<&V::SetFromString>("SetFromString", {"pString"}, "Takes the elements from a text like (1;2;3)."),
-              method<&V::GetString>("GetString", "The elements as a text like (1;2;3)."),
-              let<&V::LetValue>("Value", {"pIndex"}),
-              get<&V::Value>("Value", {"pIndex"}, "The element at an index from 1."),
-              method<&V::InsertValue>("InsertValue", {"pAtPos", opt("pValue", pDefault)},
-                                      "Inserts an element; a position outside appends it."),
-              method<&V::AddValue>("AddValue", {"pValue"}, "Appends an element."));
+              kVectorText<V>, kLetValue<V>, kValue<V>, InsertRows<V>(pDefault));
 }
 
 template <class V>
@@ -100,5 +112,43 @@ template <>
 inline constexpr auto members<CBoolVector> = table(kVectorType<CBoolVector>, kLetVectorSize<CBoolVector>,
                                                    kVectorSize<CBoolVector>, ElementRows<CBoolVector>(false),
                                                    LookUpRows<CBoolVector>(), ObjectRows<CBoolVector>());
+
+template <>
+inline constexpr auto members<CVector> =
+    table(get<&CVector::VarType>("VarType", "The declared value type, by which the elements are saved."),
+          let<&CVector::LetVarType>("VarType"), kVectorSize<CVector>, kLetVectorSize<CVector>, kVectorText<CVector>,
+          kValue<CVector>, kLetValue<CVector>, InsertRows<CVector>(kInvalidDouble), kAddUniqueValue<CVector>,
+          LookUpRows<CVector>(), kSort<CVector>, ObjectRows<CVector>(), kLetBlockSize<CVector>);
+
+template <>
+inline constexpr auto members<CObjVector> = table(
+    get<&CObjVector::Size>("Size", "The number of objects."), let<&CObjVector::LetSize>("Size"),
+    get<&CObjVector::Ref>("Ref", {"pIndex"}, "The object at an index from 1, itself."),
+    let<&CObjVector::LetRef>("Ref", {"pIndex"}),
+    get<&CObjVector::Copy>("Copy", {"pIndex"}, "A copy of the object at an index."),
+    get<&CObjVector::Key>("Key", {"pIndex"}, "The key at an index."), let<&CObjVector::LetKey>("Key", {"pIndex"}),
+    method<&CObjVector::ReplaceObject>("ReplaceObject", {"pIndex", "pKey", "pValue"},
+                                       "Stores a key and a copy of an object at an index."),
+    method<&CObjVector::AddObject>("AddObject", {"pKey", "pValue"}, "Appends a key and a copy of an object."),
+    method<&CObjVector::DeleteObject>("DeleteObject", {"pIndex"}, "Removes a key and its object."),
+    method<&CObjVector::GetUniqueKey>(
+        "GetUniqueKey", {"pKey"}, "A key with the first number behind it that no object has, if it has to have one."),
+    method<&CObjVector::Index>("Index", {"pKey"}, "The first index with a key, -1 if there is none."),
+    method<&CObjVector::KeyVec>("KeyVec", "All keys in order."), CopyRows<CObjVector>(), SaveRows<CObjVector>(),
+    kLetBlockSize<CObjVector>);
+
+template <>
+inline constexpr auto members<CDblVectors> = table(
+    get<&CDblVectors::Size>("Size", "The number of vectors."), let<&CDblVectors::LetSize>("Size"),
+    get<&CDblVectors::Vector>("Vector", {"pIdx"}, "A copy of the vector at an index; set stores a vector itself."),
+    let<&CDblVectors::LetVector>("Vector", {"pIdx"}), set<&CDblVectors::SetVector>("Vector", {"pIdx"}),
+    method<&CDblVectors::InsertVector>("InsertVector", {"pVector", "pPos"},
+                                       "Inserts a copy of a vector; a position outside appends it."),
+    method<&CDblVectors::AddVector>("AddVector", {"pVector"}, "Appends a copy of a vector."),
+    method<&CDblVectors::DeleteVector>("DeleteVector", {"pIdx"}, "Removes a vector."),
+    method<&CDblVectors::VectorRef>("VectorRef", {"pIdx"}, "The vector at an index, itself."), CopyRows<CDblVectors>(),
+    kIsEqual<CDblVectors>,
+    let<&CDblVectors::LetBlockSize>("BlockSize", "The number of slots by which the storage of every vector grows."),
+    SaveRows<CDblVectors>());
 
 }  // namespace qzbase::automation

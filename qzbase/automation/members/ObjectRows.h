@@ -19,11 +19,14 @@ constexpr auto SaveRows() {
                                          "Reads the object from a buffer, from its start unless it goes on."));
 }
 
+template <class C>
+inline constexpr auto kIsEqual = method<&C::IsEqual>("IsEqual", {"pCompare"},
+                                                     "Whether two objects have equal contents.");
+
 // What they all can do, but for their texts.
 template <class C>
 constexpr auto ObjectRows() {
-  return rows(CopyRows<C>(), method<&C::IsEqual>("IsEqual", {"pCompare"}, "Whether two objects have equal contents."),
-              SaveRows<C>());
+  return rows(CopyRows<C>(), kIsEqual<C>, SaveRows<C>());
 }
 
 }  // namespace qzbase::automation

@@ -1,10 +1,11 @@
-// The members of the tagged buffer, and the roots of the registry store.
+// The members of the tagged buffer and of the registry store, and the roots of the store.
 #pragma once
 
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/Members.h"
 #include "qzbase/automation/members/ObjectRows.h"
 #include "qzbase/persist/CBuffer.h"
+#include "qzbase/persist/GCRegistry.h"
 #include "qzbase/persist/TRegKey.h"
 
 namespace qzbase::automation {
@@ -42,6 +43,22 @@ inline constexpr auto members<CBuffer> =
           get<&CBuffer::CheckSum>("CheckSum", "A checksum of all bytes."),
           method<&CBuffer::BinaryEqual>("BinaryEqual", {"pBuffer"},
                                         "Whether two buffers hold the same bytes behind the first."));
+
+template <>
+inline constexpr auto members<GCRegistry> = table(
+    method<&GCRegistry::REGCreateNewSection>("REGCreateNewSection", {"HKEY", "Section"},
+                                             "Makes a section; the platform's result."),
+    method<&GCRegistry::REGSaveBuffer>("REGSaveBuffer", {"HKEY", "Section", "Key", "Buffer"},
+                                       "Writes a buffer into a section."),
+    method<&GCRegistry::REGGetBuffer>("REGGetBuffer", {"HKEY", "Section", "Key"},
+                                      "Reads a buffer; a new empty one where there is none."),
+    method<&GCRegistry::REGSaveValue>("REGSaveValue", {"HKEY", "Section", "Key", "Value"},
+                                      "Writes an integer or a text, nothing else; the platform's result."),
+    method<&GCRegistry::REGGetValue>("REGGetValue", {"HKEY", "Section", "Key"},
+                                     "Reads a 32-bit integer or a text; empty where there is neither."),
+    method<&GCRegistry::REGDeleteValue>("REGDeleteValue", {"HKEY", "Section", "Key"}, "Deletes a value of a section."),
+    method<&GCRegistry::REGDeleteSection>("REGDeleteSection", {"HKEY", "Section"},
+                                          "Fails with the platform's result, and deletes nothing."));
 
 // Numbers, since the system's headers have macros of these names.
 template <>

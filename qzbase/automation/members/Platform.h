@@ -4,6 +4,7 @@
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/Members.h"
 #include "qzbase/platform/GCBase.h"
+#include "qzbase/platform/GCFileUtil.h"
 #include "qzbase/platform/TFontStyle.h"
 #include "qzbase/platform/TGuid.h"
 #include "qzbase/platform/TTimeStamp.h"
@@ -58,5 +59,28 @@ constexpr auto FactoryRows() {
 
 template <>
 inline constexpr auto members<GCBase> = table(FactoryRows());
+
+template <>
+inline constexpr auto members<GCFileUtil> = table(
+    method<&GCFileUtil::DeleteFile>("DeleteFile", {"FileName"}, "Deletes a file, or all that fit wildcards."),
+    method<&GCFileUtil::FileExists>("FileExists", {"FName"}, "Whether there is a file of that name."),
+    method<&GCFileUtil::PathExists>("PathExists", {"Path"}, "Whether there is a directory of that name."),
+    method<&GCFileUtil::FileNameValid>("FileNameValid", {"FName"}, "Whether the system takes a text for a file name."),
+    method<&GCFileUtil::GetExtn>("GetExtn", {"FName"}, "The extension, with its dot."),
+    method<&GCFileUtil::GetFileNameIndex>("GetFileNameIndex", {"PName"}, "The digits of the index behind #."),
+    method<&GCFileUtil::GetFileNameRoot>("GetFileNameRoot", {"PName"}, "The name without path, index and extension."),
+    method<&GCFileUtil::GetPath>("GetPath", {"FName"}, "The path, with its last backslash."),
+    method<&GCFileUtil::IndexedFileName>("IndexedFileName", {"FName", "Index"},
+                                         "The name with an index; below 1, with its own."),
+    method<&GCFileUtil::PathToDir>("PathToDir", {"Path"}, "A path without its last backslash, unless of a drive."),
+    method<&GCFileUtil::StripExtn>("StripExtn", {byRef("PName")}, "The name without its extension."),
+    method<&GCFileUtil::StripFileNameIndex>("StripFileNameIndex", {"PName"},
+                                            "A name without extension, without # and index."),
+    method<&GCFileUtil::StripPath>("StripPath", {byRef("FName")}, "The name without its path."),
+    method<&GCFileUtil::ChangeDir>("ChangeDir", {"Directory"}, "Makes a directory and its drive current."),
+    method<&GCFileUtil::GetDirContents>("GetDirContents", {"RootDir", "Pattern", "Recursiv", "FName", "FDate"},
+                                        "Appends the files of a directory and their dates."),
+    method<&GCFileUtil::MakeDir>("MakeDir", {"Path"}, "Makes a directory; 0 or the number of an error."),
+    method<&GCFileUtil::DelDir>("DelDir", {"Path"}, "Removes an empty directory; 0 or the number of an error."));
 
 }  // namespace qzbase::automation

@@ -1,0 +1,151 @@
+#include "qzbase/os/Files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <ctime>
+#include <memory>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "qzbase/os/Utf8.h"
+#include "qzbase/os/Wildcards.h"
+
+namespace qzbase::os {
+namespace {
+
+constexpr std::string_view kSeparator = "/";
+constexpr double kSecondsADay = 86400;
+constexpr double kEpoch = 25569;  // 1970-01-01 as the days of a date
+
+struct CloseFolder {
+  void operator()(DIR* pFolder) const noexcept { closedir(pFolder); }
+};
+using FolderHandle = std::unique_ptr<DIR, CloseFolder>;
+
+bool HasDrive(std::u16string_view pName) noexcept {
+  const auto letter = pName.empty() ? u' ' : static_cast<char16_t>(pName[0] | 0x20);
+  return pName.size() > 1 && pName[1] == u':' && letter >= u'a' && letter <= u'z';
+}
+
+// The name as the system wants it, as far as the system would read it.
+std::string NativeName(std::u16string_view pName) {
+  pName = pName.substr(0, pName.find(u'\0'));
+  std::string name = ToUtf8(HasDrive(pName) ? pName.substr(2) : pName);
+  std::replace(name.begin(), name.end(), '\\', '/');
+  return name;
+}
+
+// A name in two: the folder, which may be missing, and what is sought in it.
+struct SplitName {
+  explicit SplitName(std::u16string_view pName) : title(NativeName(pName)) {
+    const std::size_t end = title.rfind(kSeparator) + 1;
+    folder = end == 0 ? "./" : title.substr(0, end);
+    title.erase(0, end);
+  }
+  bool HasWildcards() const { return title.find_first_of("*?") != std::string::npos; }
+
+  std::string title;
+  std::string folder;
+};
+
+bool FitsFileWildcards(std::u16string_view pName, std::u16string_view pPattern) {
+  const auto isStar = [](char16_t pPiece) { return pPiece == u'*'; };
+  const auto fits = [](char16_t pPiece, char16_t pUnit) { return pPiece == u'?' || pPiece == pUnit; };
+  if (FitsPieces(pName, pPattern, isStar, fits)) return true;
+  return pPattern.ends_with(u".*") && pName.find(u'.') == std::u16string_view::npos &&
+         FitsPieces(pName, pPattern.substr(0, pPattern.size() - 2), isStar, fits);
+}
+
+double LocalDate(std::time_t pTime) {
+  std::tm local{};
+  localtime_r(&pTime, &local);
+  return static_cast<double>(timegm(&local)) / kSecondsADay + kEpoch;
+}
+
+// What is told of an entry besides its name; false where it is not there.
+bool ReadEntry(int pFolder, const std::string& pPath, FileEntry& pEntry) {
+  struct stat status {};
+  if (fstatat(pFolder, pPath.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return false;
+  pEntry.isLink = S_ISLNK(status.st_mode);
+  struct stat target {};
+  if (pEntry.isLink && fstatat(pFolder, pPath.c_str(), &target, 0) == 0) status = target;
+  pEntry.isFolder = S_ISDIR(status.st_mode);
+  pEntry.modified = LocalDate(status.st_mtime);
+  return true;
+}
+
+// Calls `pVisit` with all that fits: an open folder, the path from there in the system's bytes, and the entry.
+template <class Visit>
+void VisitEntries(std::u16string_view pName, Visit pVisit) {
+  const SplitName name(pName);
+  if (name.title.empty()) return;
+  const std::u16string title = FromUtf8(name.title);
+  FileEntry entry{title};
+  if (!name.HasWildcards()) {
+    const std::string path = name.folder + name.title;
+    if (ReadEntry(AT_FDCWD, path, entry)) pVisit(AT_FDCWD, path, entry);
+    return;
+  }
+  const FolderHandle folder(opendir(name.folder.c_str()));
+  while (const dirent* found = folder ? readdir(folder.get()) : nullptr) {
+    entry.name = FromUtf8(found->d_name);
+    if (FitsFileWildcards(entry.name, title) && ReadEntry(dirfd(folder.get()), found->d_name, entry))
+      pVisit(dirfd(folder.get()), found->d_name, entry);
+  }
+}
+
+FileResult ResultOf(int pReturned) noexcept {
+  if (pReturned == 0) return FileResult::Done;
+  switch (errno) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENAMETOOLONG:
+      return FileResult::PathNotFound;
+    case ENOSPC:
+    case EDQUOT:
+      return FileResult::DiskFull;
+    case EIO:
+      return FileResult::DeviceFailed;
+    default:
+      return FileResult::NoAccess;
+  }
+}
+
+}  // namespace
+
+std::vector<FileEntry> FindEntries(std::u16string_view pName) {
+  std::vector<FileEntry> entries;
+  VisitEntries(pName, [&](int, const std::string&, const FileEntry& pEntry) { entries.push_back(pEntry); });
+  return entries;
+}
+
+void RemoveFiles(std::u16string_view pName) {
+  VisitEntries(pName, [](int pFolder, const std::string& pPath, const FileEntry& pEntry) {
+    if (!pEntry.isFolder) unlinkat(pFolder, pPath.c_str(), 0);
+  });
+}
+
+FileResult MakeFolder(std::u16string_view pFolder) {
+  return ResultOf(mkdir(NativeName(pFolder).c_str(), S_IRWXU | S_IRWXG | S_IRWXO));
+}
+
+FileResult RemoveFolder(std::u16string_view pFolder) {
+  return ResultOf(rmdir(NativeName(pFolder).c_str()));
+}
+
+void ChangeFolder(std::u16string_view pFolder) {
+  static_cast<void>(ResultOf(chdir(NativeName(pFolder).c_str())));
+}
+
+// The characters are those that the service of Windows refuses.
+bool IsFileTitle(std::u16string_view pName) {
+  if (pName.empty() || std::u16string_view(u"\\/:").find(pName.back()) != std::u16string_view::npos) return false;
+  return std::none_of(pName.begin(), pName.end(), [](char16_t pUnit) {
+    return pUnit < u' ' || std::u16string_view(u"*?[]\"<>|").find(pUnit) != std::u16string_view::npos;
+  });
+}
+
+}  // namespace qzbase::os
