@@ -1,12 +1,15 @@
-// Growth and sorting of the typed vectors.
+// Growth, copying, comparing and sorting of the typed vectors.
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
+#include <numeric>
 #include <random>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include "qzbase/data/CDblVector.h"
+#include "qzbase/data/CLngVector.h"
 
 namespace {
 
@@ -42,6 +45,124 @@ BENCHMARK(AddValue)->Name("AddValue100000/block")->Args({100'000, 1})->Unit(benc
 BENCHMARK(AddValue)->Name("AddValue100000/block")->Args({100'000, 16})->Unit(benchmark::kMillisecond);
 BENCHMARK(AddValue)->Name("AddValue10000/block")->Args({10'000, 1})->Unit(benchmark::kMillisecond);
 BENCHMARK(AddValue)->Name("AddValue10000/block")->Args({10'000, 16})->Unit(benchmark::kMillisecond);
+
+// ---- One million elements at once, into memory that is there already and into fresh one.
+
+constexpr std::int32_t kMany = 1'000'000;
+
+template <class T>
+std::vector<T> Counted() {
+  std::vector<T> values(kMany);
+  std::iota(values.begin(), values.end(), T{1});
+  return values;
+}
+
+template <class Vector>
+void FillVector(Vector& pVector) {
+  pVector.LetBlockSize(1024);
+  pVector.SetFromArray({1, Counted<typename Vector::Type>()});
+}
+
+template <class T>
+void CopyLimit(benchmark::State& pState) {
+  const std::vector<T> from = Counted<T>();
+  std::vector<T> to(kMany);
+  for (auto _ : pState) {
+    std::memcpy(to.data(), from.data(), kMany * sizeof(T));
+    benchmark::ClobberMemory();
+  }
+}
+
+template <class Vector>
+void SetFromArray(benchmark::State& pState) {
+  const runtime::Array<typename Vector::Type> array(1, Counted<typename Vector::Type>());
+  Vector vector;
+  FillVector(vector);
+  for (auto _ : pState) {
+    vector.SetFromArray(array);
+    benchmark::ClobberMemory();
+  }
+}
+
+template <class Vector>
+void CopyFrom(benchmark::State& pState) {
+  Vector from;
+  Vector to;
+  FillVector(from);
+  FillVector(to);
+  for (auto _ : pState) {
+    to.CopyFrom(from);
+    benchmark::ClobberMemory();
+  }
+}
+
+template <class T>
+void FreshLimit(benchmark::State& pState) {
+  const std::vector<T> from = Counted<T>();
+  for (auto _ : pState) {
+    const std::vector<T> to(from);
+    benchmark::DoNotOptimize(to.data());
+  }
+}
+
+template <class Vector>
+void FreshSetFromArray(benchmark::State& pState) {
+  const runtime::Array<typename Vector::Type> array(1, Counted<typename Vector::Type>());
+  for (auto _ : pState) {
+    Vector vector;
+    vector.SetFromArray(array);
+    benchmark::DoNotOptimize(vector.Value(1));
+  }
+}
+
+template <class Vector>
+void GetCopy(benchmark::State& pState) {
+  Vector vector;
+  FillVector(vector);
+  for (auto _ : pState) benchmark::DoNotOptimize(vector.GetCopy());
+}
+
+template <class Vector>
+void GetArray(benchmark::State& pState) {
+  Vector vector;
+  FillVector(vector);
+  for (auto _ : pState) benchmark::DoNotOptimize(vector.GetArray());
+}
+
+template <class T>
+void IsEqualLimit(benchmark::State& pState) {
+  const std::vector<T> left = Counted<T>();
+  const std::vector<T> right = Counted<T>();
+  for (auto _ : pState) benchmark::DoNotOptimize(std::memcmp(left.data(), right.data(), kMany * sizeof(T)));
+}
+
+template <class Vector>
+void IsEqual(benchmark::State& pState) {
+  Vector left;
+  Vector right;
+  FillVector(left);
+  FillVector(right);
+  for (auto _ : pState) benchmark::DoNotOptimize(left.IsEqual(right));
+}
+
+BENCHMARK_TEMPLATE(CopyLimit, double)->Name("CopyDoubles/limit")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(SetFromArray, CDblVector)->Name("CopyDoubles/SetFromArray")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(CopyFrom, CDblVector)->Name("CopyDoubles/CopyFrom")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(FreshLimit, double)->Name("FreshDoubles/limit")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(FreshSetFromArray, CDblVector)->Name("FreshDoubles/SetFromArray")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(GetCopy, CDblVector)->Name("FreshDoubles/GetCopy")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(GetArray, CDblVector)->Name("FreshDoubles/GetArray")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(IsEqualLimit, double)->Name("EqualDoubles/limit")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(IsEqual, CDblVector)->Name("EqualDoubles/IsEqual")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(CopyLimit, std::int32_t)->Name("CopyLongs/limit")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(SetFromArray, CLngVector)->Name("CopyLongs/SetFromArray")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(CopyFrom, CLngVector)->Name("CopyLongs/CopyFrom")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(FreshLimit, std::int32_t)->Name("FreshLongs/limit")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(FreshSetFromArray, CLngVector)->Name("FreshLongs/SetFromArray")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(GetCopy, CLngVector)->Name("FreshLongs/GetCopy")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(GetArray, CLngVector)->Name("FreshLongs/GetArray")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(IsEqualLimit, std::int32_t)->Name("EqualLongs/limit")->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(IsEqual, CLngVector)->Name("EqualLongs/IsEqual")->Unit(benchmark::kMicrosecond);
 
 runtime::Array<double> RandomValues() {
   std::mt19937_64 random(7);

@@ -16,6 +16,7 @@
 #include "qzbase/automation/members/Data.h"
 #include "qzbase/automation/members/Desc.h"
 #include "qzbase/automation/members/Layout.h"
+#include "qzbase/automation/members/Locale.h"
 #include "qzbase/automation/members/Persist.h"
 #include "qzbase/automation/members/Platform.h"
 #include "qzbase/runtime/AutomationError.h"
@@ -29,6 +30,7 @@ extern template struct RoomEntries<DescClasses>;
 extern template struct RoomEntries<DataClasses>;
 extern template struct RoomEntries<LayoutClasses>;
 extern template struct RoomEntries<PlatformClasses>;
+extern template struct RoomEntries<LocaleClasses>;
 
 namespace {
 

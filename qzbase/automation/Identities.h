@@ -41,6 +41,8 @@ class CTypedInfo;
 class CLayoutGraph;
 class CLayoutGraph3D;
 class CLayoutTable;
+class GCResource;
+class CLocalGUI;
 
 struct TErrDesc;
 struct TErrIndex;
@@ -156,6 +158,12 @@ template <> inline constexpr Identity identity<CLayoutGraph3D> = ObjectClass("CL
 template <> inline constexpr Identity identity<CLayoutTable> = ObjectClass("CLayoutTable",
     "5F7D93D4-B37A-45AA-AC13-A3C0493A7A40", "46B91459-FF33-4D8A-A0C8-2BC2ED0B18AC",
     "How a table is shown.");
+template <> inline constexpr Identity identity<GCResource> = GlobalClass("GCResource",
+    "9F5372BD-81F8-4C40-8C95-6A4C66FCBE3B", "AE9F2D86-B8DB-49C6-81D1-71B86ED2FDD8",
+    "Translated texts and messages, and localised forms.");
+template <> inline constexpr Identity identity<CLocalGUI> = ObjectClass("CLocalGUI",
+    "09EF0B15-C161-47D0-B8C4-B1AE9ABDCA74", "19B8D40F-27F7-45BD-9ED0-B8B719F71D34",
+    "A node of the tree of localised forms.");
 
 template <> inline constexpr Identity identity<TErrDesc> = RecordNamed("TErrDesc",
     "89FD365E-0127-48BE-9771-30964EA46B62", "A registered error.");
@@ -198,12 +206,14 @@ using CoreClasses = TypeList<GCError, GCMath>;
 using TextClasses = TypeList<GCStrings, GCConvert>;
 using PersistClasses = TypeList<CBuffer, GCRegistry>;
 using DescClasses = TypeList<TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs, CTypedInfo>;
-using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors>;
+using DataClasses = TypeList<CDblVector, CLngVector, CStrVector, CBoolVector, CVector, CObjVector, CDblVectors,
+                             CDblMatrix, CMatrix, CEntryData, CTable>;
 using LayoutClasses = TypeList<CLayoutGraph, CLayoutGraph3D, CLayoutTable>;
 using PlatformClasses = TypeList<GCBase, GCFileUtil>;
+using LocaleClasses = TypeList<GCResource, CLocalGUI>;
 
-using Rooms =
-    TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses, PlatformClasses>;
+using Rooms = TypeList<CoreClasses, TextClasses, PersistClasses, DescClasses, DataClasses, LayoutClasses,
+                       PlatformClasses, LocaleClasses>;
 using AllClasses = JoinLists<Rooms>;
 using AllRecords = TypeList<TErrDesc, TErrIndex, TPoint, TTimeStamp, TGuid, TCurveStyle, TLabelStyle, TFontStyle>;
 using AllEnumerations =

@@ -69,7 +69,7 @@ class BlockStorage {
 
   // Copies the elements of other storage into the first slots. The size has been set before.
   void CopyElements(const BlockStorage& pSource);
-  void CopyElements(const Slots& pSource);
+  void CopyElements(const Slots& pSource) { CopyFirst(pSource, pSource.size()); }
 
   // The elements, side by side.
   std::span<T> Elements() requires(!std::same_as<T, bool>) {
@@ -78,11 +78,23 @@ class BlockStorage {
     return std::span(slots_).first(static_cast<std::size_t>(size_));
   }
 
+  // Gives each element what `pMake` makes, one after the other; those behind one that fails keep what they hold.
+  template <class Make>
+  void MakeElements(Make pMake) requires(!std::same_as<T, bool>);
+
+  // Those of them that take memory; all others hold zero, "" or false.
+  std::span<const T> WrittenElements() const requires(!std::same_as<T, bool>) {
+    const auto size = static_cast<std::size_t>(std::max(size_, 0));
+    return std::span(slots_).first(std::min(size, slots_.size()));
+  }
+
   // All slots, up to the capacity.
   Slots AllSlots() const {
     return runtime::WithMemory([this] {
-      Slots slots(static_cast<std::size_t>(capacity_));
-      std::copy(slots_.begin(), slots_.end(), slots.begin());
+      Slots slots;
+      slots.reserve(static_cast<std::size_t>(capacity_));
+      slots.assign(slots_.begin(), slots_.end());
+      slots.resize(static_cast<std::size_t>(capacity_));
       return slots;
     });
   }
@@ -113,6 +125,7 @@ class BlockStorage {
     if (static_cast<std::size_t>(std::int64_t{pIndex} - 1) >= slots_.size()) GrowTo(pIndex);
   }
   void GrowTo(std::int32_t pIndex);
+  void CopyFirst(const Slots& pSource, std::size_t pCount);
 
   Slots slots_;  // at most capacity_
   std::int32_t capacity_;
@@ -136,6 +149,19 @@ void BlockStorage<T>::GrowTo(std::int32_t pIndex) {
   const auto needed = static_cast<std::size_t>(pIndex);
   const std::size_t wanted = std::max({needed, 2 * slots_.size(), kFirstSlots});
   runtime::Grow(slots_, needed, std::min(wanted, static_cast<std::size_t>(capacity_)));
+}
+
+// Elements without memory are made where they are to be: writing zeros first would touch the memory twice.
+template <class T>
+template <class Make>
+void BlockStorage<T>::MakeElements(Make pMake) requires(!std::same_as<T, bool>) {
+  if (size_ < 1) return;
+  CheckIndex(size_);
+  const auto size = static_cast<std::size_t>(size_);
+  if (size > slots_.capacity()) runtime::WithMemory([&] { slots_.reserve(size); });
+  const std::size_t written = std::min(size, slots_.size());
+  for (std::size_t i = 0; i < written; ++i) slots_[i] = pMake();
+  while (slots_.size() < size) slots_.emplace_back(pMake());
 }
 
 template <class T>
@@ -162,18 +188,24 @@ void BlockStorage<T>::CopyElements(const BlockStorage& pSource) {
   if (size_ < 1) return;
   pSource.CheckIndex(size_);
   if (&pSource == this) return;
-  const auto count = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(size_), pSource.slots_.size()));
-  if (count > 0) MakeSlots(count);
-  std::copy_n(pSource.slots_.begin(), count, slots_.begin());
-  const auto written = static_cast<std::int32_t>(std::min(static_cast<std::size_t>(size_), slots_.size()));
-  std::fill(slots_.begin() + count, slots_.begin() + written, T{});
+  const auto size = static_cast<std::size_t>(size_);
+  const std::size_t count = std::min(size, pSource.slots_.size());
+  CopyFirst(pSource.slots_, count);
+  const std::size_t written = std::min(size, slots_.size());
+  for (std::size_t i = count; i < written; ++i) slots_[i] = T{};
 }
 
+// Where no slot keeps its content all are written once: growing first would fill them with zeros.
 template <class T>
-void BlockStorage<T>::CopyElements(const Slots& pSource) {
-  if (pSource.empty()) return;
-  MakeSlots(static_cast<std::int32_t>(pSource.size()));
-  std::copy(pSource.begin(), pSource.end(), slots_.begin());
+void BlockStorage<T>::CopyFirst(const Slots& pSource, std::size_t pCount) {
+  if (pCount == 0) return;
+  const auto last = static_cast<std::int32_t>(pCount);
+  CheckIndex(last);
+  const auto end = pSource.begin() + last;
+  if (pCount < slots_.size())
+    std::copy(pSource.begin(), end, slots_.begin());
+  else
+    runtime::WithMemory([&] { slots_.assign(pSource.begin(), end); });
 }
 
 }  // namespace qzbase

@@ -11,8 +11,7 @@ namespace qzbase {
 template <class Base>
 class BlockVector : public Base {
  public:
-  // The number of slots by which storage grows, 16 at first; storage follows at once. Error 11 for 0, 9 or
-  // 6 below.
+  // The number of slots by which storage grows, 16 at first; storage follows at once. Error 11 for 0, 9 or 6 below 0.
   void LetBlockSize(std::int32_t pBlockSize) { this->storage_.LetBlockSize(pBlockSize); }
 
   void AddUniqueValue(typename Base::Argument pValue) {

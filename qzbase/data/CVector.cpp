@@ -27,7 +27,7 @@ void SaveAs(CBuffer& pBuffer, const Slots& pSlots) {
 
 template <auto kNext>
 void LoadAs(CBuffer& pBuffer, Slots& pSlots) {
-  for (std::int32_t i = 0; i < pSlots.Size(); ++i) pSlots.Store(i + 1, Variant((pBuffer.*kNext)()));
+  pSlots.MakeElements([&] { return Variant((pBuffer.*kNext)()); });
 }
 
 void SaveAny(CBuffer& pBuffer, const Slots& pSlots) {

@@ -8,7 +8,8 @@
 //
 // Record: that of ElementVector.h, each element in the record of the type, to which it converts:
 //
-//   EVTInvalid   what the value is, with its marker; reading it back raises InvVarType
+//   EVTInvalid   what the value is, with its marker; reading it back raises InvVarType, or gives empty values where the
+//                first is a date
 //   EVTColor     written as a colour, read as a long: raises InvVarType
 //   EVTEnum      a long
 //   EVTObject    nothing, as for a number that is no type: elements keep what they hold

@@ -1,10 +1,13 @@
 // The element types of the vectors, one row of traits each.
 //
-//                   double     long        text    boolean     variant
-//   default value   invalid    invalid     "~"     false       invalid double   of InsertValue; skipped by NrValid and
-//   Sum reported type   EVTDouble  EVTDouble   none    EVTBoolean  its own blocks          16         16          16 1,
-//   fixed    16, cut to the number of elements by InsertValue equality        exact      exact       text    exact that
-//   of variants, texts exact
+//                   double     long       text     boolean     variant
+//   default value   invalid    invalid    "~"      false       invalid double
+//   reported type   EVTDouble  EVTDouble  none     EVTBoolean  its own
+//   block size      16         16         16       1, fixed    16
+//   equality        exact      exact      by text  exact       of variants, texts exact
+//
+// The default value is the one that InsertValue takes when none is given; the invalid ones are skipped by NrValid and
+// Sum. An insertion cuts the storage of variants to the number of elements.
 #pragma once
 
 #include <cmath>

@@ -84,14 +84,9 @@ Order CompareInSort(const Variant& pLeft, const Variant& pRight, CaseRule pCase,
 }
 
 void SortElements(std::span<Variant> pElements, bool pAscending) {
-  const LocaleRules& rules = runtime::ThreadLocale();
   const auto stranger = std::find_if(pElements.begin(), pElements.end(), HasNoOrderAtAll);
-  const auto count = static_cast<std::int32_t>(stranger - pElements.begin());
-  const auto order = SortedOrder(count, pAscending, [&](std::int32_t pFirst, std::int32_t pSecond) {
-    return CompareInSort(pElements[static_cast<std::size_t>(pFirst)], pElements[static_cast<std::size_t>(pSecond)],
-                         CaseRule::CaseSensitive, rules);
-  });
-  Rearrange(pElements, order);
+  const auto count = static_cast<std::size_t>(stranger - pElements.begin());
+  Rearrange(pElements, SortedOrder(pElements.first(count), pAscending));
   if (stranger != pElements.end() && pElements.size() > 1) Raise(RuntimeError::TypeMismatch);
 }
 

@@ -43,6 +43,10 @@ runtime::Order CompareInSort(const runtime::Variant& pLeft, const runtime::Varia
                              runtime::CaseRule pCase = runtime::CaseRule::CaseSensitive,
                              const runtime::LocaleRules& pRules = runtime::ThreadLocale());
 
+// Where variants come to stand by `CompareInSort`, found faster where all are numbers (dates, booleans and empty ones
+// included) or all are texts. Error 13 where one of several is an object or array.
+std::vector<std::int32_t> SortedOrder(std::span<const runtime::Variant> pKeys, bool pAscending);
+
 // Where the elements 0 to `pCount` - 1 come to stand: first the index of the one that goes first. `pOrder(i, j)` says
 // how element i stands to element j: `Unknown` where one of them has no order, which it then has not to itself either.
 template <class OrderOf>

@@ -11,24 +11,32 @@
 namespace qzbase::os {
 namespace {
 
-CriticalMessageHook& ThreadHook() {
-  static PerThread<CriticalMessageHook> hook;
+MessageHook& ThreadHook() {
+  static PerThread<MessageHook> hook;
   return *hook;
+}
+
+void Show(MessageIcon pIcon, std::u16string_view pText, std::u16string_view pCaption) {
+  // A copy: the hook may set another one.
+  if (const MessageHook hook = ThreadHook()) return hook(pText, pCaption);
+  DisplayMessage(pIcon, pText, pCaption);
 }
 
 }  // namespace
 
-void ShowCriticalMessage(std::u16string_view pText, std::u16string_view pCaption) {
-  // A copy: the hook may set another one.
-  if (const CriticalMessageHook hook = ThreadHook()) return hook(pText, pCaption);
-  DisplayCriticalMessage(pText, pCaption);
+void ShowMessage(std::u16string_view pText, std::u16string_view pCaption) {
+  Show(MessageIcon::None, pText, pCaption);
 }
 
-void SetCriticalMessageHook(CriticalMessageHook pHook) {
+void ShowCriticalMessage(std::u16string_view pText, std::u16string_view pCaption) {
+  Show(MessageIcon::Critical, pText, pCaption);
+}
+
+void SetMessageHook(MessageHook pHook) {
   ThreadHook() = std::move(pHook);
 }
 
-void PrintCriticalMessage(std::u16string_view pText, std::u16string_view pCaption) {
+void PrintMessage(std::u16string_view pText, std::u16string_view pCaption) {
   const std::string line = ToUtf8(pCaption) + ": " + ToUtf8(pText) + "\n";
   std::fwrite(line.data(), 1, line.size(), stderr);
   std::fflush(stderr);

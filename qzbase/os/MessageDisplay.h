@@ -1,13 +1,16 @@
-// How each system shows a message that the user must not miss; `ShowCriticalMessage` is the door to it.
+// How each system shows a message in a box of its own; MessageBox.h is the door to it.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 namespace qzbase::os {
 
-void DisplayCriticalMessage(std::u16string_view pText, std::u16string_view pCaption);
+enum class MessageIcon : std::uint8_t { None, Critical };
+
+void DisplayMessage(MessageIcon pIcon, std::u16string_view pText, std::u16string_view pCaption);
 
 // One line "CAPTION: TEXT" on the standard error output.
-void PrintCriticalMessage(std::u16string_view pText, std::u16string_view pCaption);
+void PrintMessage(std::u16string_view pText, std::u16string_view pCaption);
 
 }  // namespace qzbase::os

@@ -108,7 +108,7 @@ TEST(ErrorRegistry, ShowsAFailedRegistration) {
   for (const std::int32_t bound : {std::numeric_limits<std::int32_t>::max() - 1, -3}) {
     OnFreshThread([&] {
       std::u16string shown;
-      os::SetCriticalMessageHook(
+      os::SetMessageHook(
           [&](std::u16string_view pText, std::u16string_view pCaption) { shown.append(pCaption).append(pText); });
       GCError::SetErrors(Array<TErrDesc>(bound, {TErrDesc{}}));
       EXPECT_EQ(GCError::RegisterError(u"App", u"Err1", u"").Value, -1);

@@ -59,6 +59,8 @@ TYPED_TEST(EveryDescList, ChangesItsSlots) {
       {u"ABC", [](L& l) { l.DeleteDesc(0); }, "ABC", kSubscript},
       {u"ABC", [](L& l) { l.MoveDesc(1, 3); }, "BCC", 0},
       {u"ABC", [](L& l) { l.MoveDesc(3, 1); }, "CCC", 0},
+      {u"ABC", [](L& l) { l.MoveDesc(4, 1); }, "ABC", kSubscript},
+      {u"ABC", [](L& l) { l.MoveDesc(2, 0); }, "BBC", kSubscript},
       {u"ABC", [](L& l) { l.LetSize(0), l.LetSize(2); }, "--", 0},
       {u"ABC", [](L& l) { l.SetDesc(2, nullptr), l.Index(u"C"); }, "A0C", kNotSet},
       {u"ABC", [](L& l) { l.SetDesc(2, nullptr), l.LetSize(4); }, "A-C-", 0},
@@ -146,6 +148,7 @@ TEST(CTypedInfo, KeepsValuesBesideDescriptors) {
     EXPECT_EQ(ErrorOf([&] { row.change(*info); }), row.error) << &row - rows;
     EXPECT_EQ(ToUtf8(info->GetString()), row.after) << &row - rows;
   }
+  EXPECT_EQ(CTypedInfo().GetValue(u"x").Kind(), runtime::VariantKind::String);  // and not empty
 }
 
 TEST(CTypedInfo, SavesTheGoldenBytesAndLoadsThem) {

@@ -14,32 +14,32 @@ TEST(MessageBox, TheHookOfTheThreadTakesItsPlace) {
   const auto record = [&](std::u16string_view pText, std::u16string_view pCaption) {
     (((seen += pCaption) += u"/") += pText) += u";";
   };
-  os::SetCriticalMessageHook(record);
+  os::SetMessageHook(record);
   os::ShowCriticalMessage(u"T1", u"C1");
   std::thread([&] {
-    os::SetCriticalMessageHook([&](auto pText, auto) { (seen += u"other/") += pText; });
+    os::SetMessageHook([&](auto pText, auto) { (seen += u"other/") += pText; });
     os::ShowCriticalMessage(u"T2;", u"C2");
   }).join();
   os::ShowCriticalMessage(u"T3", u"C3");
-  os::SetCriticalMessageHook({});
+  os::SetMessageHook({});
   EXPECT_EQ(seen, u"C1/T1;other/T2;C3/T3;");
 }
 
 TEST(MessageBox, TheHookMayTakeItselfAway) {
   int calls = 0;
-  os::SetCriticalMessageHook([&](auto, auto) {
-    os::SetCriticalMessageHook([&](auto, auto) { calls += 10; });
+  os::SetMessageHook([&](auto, auto) {
+    os::SetMessageHook([&](auto, auto) { calls += 10; });
     ++calls;
   });
   os::ShowCriticalMessage(u"a", u"b");
   os::ShowCriticalMessage(u"a", u"b");
-  os::SetCriticalMessageHook({});
+  os::SetMessageHook({});
   EXPECT_EQ(calls, 11);
 }
 
 TEST(MessageBox, WithoutADesktopOneLineIsPrinted) {
   testing::internal::CaptureStderr();
-  os::PrintCriticalMessage(u"Gr\u00F6\u00DFe", u"Caption");
+  os::PrintMessage(u"Gr\u00F6\u00DFe", u"Caption");
   EXPECT_EQ(testing::internal::GetCapturedStderr().substr(0, 16),
             "Caption: Gr\xC3\xB6\xC3\x9F"
             "e");

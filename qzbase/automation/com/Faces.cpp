@@ -6,6 +6,7 @@
 #include "qzbase/automation/members/Data.h"
 #include "qzbase/automation/members/Desc.h"
 #include "qzbase/automation/members/Layout.h"
+#include "qzbase/automation/members/Locale.h"
 #include "qzbase/automation/members/Persist.h"
 #include "qzbase/automation/members/Platform.h"
 #include "qzbase/automation/members/Text.h"
@@ -23,6 +24,7 @@ extern template struct RoomFaces<DescClasses>;
 extern template struct RoomFaces<DataClasses>;
 extern template struct RoomFaces<LayoutClasses>;
 extern template struct RoomFaces<PlatformClasses>;
+extern template struct RoomFaces<LocaleClasses>;
 
 namespace {
 

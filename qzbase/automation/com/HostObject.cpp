@@ -68,6 +68,14 @@ bool IsPut(CallKind pKind) noexcept {
 
 }  // namespace
 
+HostObject::~HostObject() {
+  // The state of a thread may outlive its apartment. The code behind the object may be unloaded by then, so that it is
+  // left alone.
+  APTTYPE type{};
+  APTTYPEQUALIFIER qualifier{};
+  if (CoGetApartmentType(&type, &qualifier) == CO_E_NOTINITIALIZED) dispatch_.Release();
+}
+
 DISPID HostObject::FindMember(std::u16string_view pName) const {
   if (pName.empty()) return DISPID_VALUE;
   const OwnedText name(pName);

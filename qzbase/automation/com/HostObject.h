@@ -13,6 +13,7 @@ namespace qzbase::automation::com {
 class HostObject final : public runtime::Object {
  public:
   explicit HostObject(ComRef<IDispatch> pDispatch) : dispatch_(std::move(pDispatch)) {}
+  ~HostObject() override;
 
   // An empty name is that of the default member. Error 438 where the object has no such member, and what it answers.
   runtime::Variant Invoke(std::u16string_view pName, runtime::CallKind pKind,

@@ -7,6 +7,7 @@
 #include "qzbase/automation/members/Data.h"
 #include "qzbase/automation/members/Desc.h"
 #include "qzbase/automation/members/Layout.h"
+#include "qzbase/automation/members/Locale.h"
 #include "qzbase/automation/members/Persist.h"
 #include "qzbase/automation/members/Platform.h"
 #include "qzbase/automation/members/Text.h"

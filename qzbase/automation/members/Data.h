@@ -1,13 +1,18 @@
 // The members of the data containers.
 #pragma once
 
+#include <type_traits>
+
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/Members.h"
 #include "qzbase/automation/members/ObjectRows.h"
+#include "qzbase/automation/members/Tables.h"
 #include "qzbase/data/CBoolVector.h"
+#include "qzbase/data/CDblMatrix.h"
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CDblVectors.h"
 #include "qzbase/data/CLngVector.h"
+#include "qzbase/data/CMatrix.h"
 #include "qzbase/data/CObjVector.h"
 #include "qzbase/data/CStrVector.h"
 #include "qzbase/data/CVector.h"
@@ -147,8 +152,63 @@ inline constexpr auto members<CDblVectors> = table(
     method<&CDblVectors::AddVector>("AddVector", {"pVector"}, "Appends a copy of a vector."),
     method<&CDblVectors::DeleteVector>("DeleteVector", {"pIdx"}, "Removes a vector."),
     method<&CDblVectors::VectorRef>("VectorRef", {"pIdx"}, "The vector at an index, itself."), CopyRows<CDblVectors>(),
-    kIsEqual<CDblVectors>,
+    IsEqualRow<CDblVectors>(),
     let<&CDblVectors::LetBlockSize>("BlockSize", "The number of slots by which the storage of every vector grows."),
     SaveRows<CDblVectors>());
+
+// ---- The matrices. In CMatrix all gets stand before their lets, and parameters have no prefix.
+
+template <class M>
+inline constexpr bool kIsPlainMatrix = std::is_same_v<M, CMatrix>;
+
+template <class M>
+constexpr auto MatrixProperty(const auto& pGet, const auto& pLet) {
+  if constexpr (kIsPlainMatrix<M>)
+    return rows(pGet, pLet);
+  else
+    return rows(pLet, pGet);
+}
+
+template <class M>
+constexpr const char* MatrixName(const char* pName) {
+  return kIsPlainMatrix<M> ? pName + 1 : pName;
+}
+
+template <class M>
+constexpr auto MatrixSizeRows() {
+  const Parameter atPos = MatrixName<M>("pAtPos"), col = MatrixName<M>("pColIdx"), row = MatrixName<M>("pRowIdx");
+  return rows(
+      MatrixProperty<M>(get<&M::NrCols>("NrCols", "The number of columns."), let<&M::LetNrCols>("NrCols")),
+      MatrixProperty<M>(get<&M::NrRows>("NrRows", "The number of rows."), let<&M::LetNrRows>("NrRows")),
+      method<&M::InsertCol>("InsertCol", {atPos}, "Inserts a column; a position outside appends it."),
+      method<&M::DeleteCol>("DeleteCol", {col}, "Removes a column."),
+      method<&M::InsertRow>("InsertRow", {atPos}, "Inserts a row; a position outside appends it."),
+      method<&M::DeleteRow>("DeleteRow", {row}, "Removes a row."),
+      method<&M::AddRow>("AddRow", {MatrixName<M>("pRow")}, "Appends a copy of a vector, which keeps its length."));
+}
+
+template <class M>
+constexpr auto MatrixElementRows() {
+  const Parameter col = MatrixName<M>("pColIdx"), row = MatrixName<M>("pRowIdx");
+  return rows(MatrixProperty<M>(get<&M::Value>("Value", {col, row}, "The element of a column and row, both from 1."),
+                                let<&M::LetValue>("Value", {col, row})),
+              get<&M::Col>("Col", {col}, "A copy of a column."), let<&M::LetCol>("Col", {col}),
+              get<&M::Row>("Row", {row}, "A copy of a row."), let<&M::LetRow>("Row", {row}),
+              get<&M::RowRef>("RowRef", {row}, "A row itself."));
+}
+
+template <class M>
+constexpr auto MatrixTable() {
+  return table(MatrixSizeRows<M>(), MatrixElementRows<M>(),
+               method<&M::Sort>("Sort", {MatrixName<M>("pCol"), opt(MatrixName<M>("pAscending"), true)},
+                                "Sorts the rows by a column; equal ones keep their order."),
+               method<&M::InverseRowOrder>("InverseRowOrder", "Puts the last row first."),
+               ObjectRows<M>(MatrixName<M>("pSource"), MatrixName<M>("pCompare")));
+}
+
+template <>
+inline constexpr auto members<CDblMatrix> = MatrixTable<CDblMatrix>();
+template <>
+inline constexpr auto members<CMatrix> = MatrixTable<CMatrix>();
 
 }  // namespace qzbase::automation

@@ -6,8 +6,8 @@
 namespace qzbase::automation {
 
 template <class C>
-constexpr auto CopyRows() {
-  return rows(method<&C::CopyFrom>("CopyFrom", {"pSource"}, "Takes over the contents of another object."),
+constexpr auto CopyRows(const char* pSource = "pSource") {
+  return rows(method<&C::CopyFrom>("CopyFrom", {pSource}, "Takes over the contents of another object."),
               method<&C::GetCopy>("GetCopy", "A new object with the same contents."));
 }
 
@@ -20,13 +20,14 @@ constexpr auto SaveRows() {
 }
 
 template <class C>
-inline constexpr auto kIsEqual = method<&C::IsEqual>("IsEqual", {"pCompare"},
-                                                     "Whether two objects have equal contents.");
+constexpr auto IsEqualRow(const char* pCompare = "pCompare") {
+  return method<&C::IsEqual>("IsEqual", {pCompare}, "Whether two objects have equal contents.");
+}
 
 // What they all can do, but for their texts.
 template <class C>
-constexpr auto ObjectRows() {
-  return rows(CopyRows<C>(), kIsEqual<C>, SaveRows<C>());
+constexpr auto ObjectRows(const char* pSource = "pSource", const char* pCompare = "pCompare") {
+  return rows(CopyRows<C>(pSource), IsEqualRow<C>(pCompare), SaveRows<C>());
 }
 
 }  // namespace qzbase::automation

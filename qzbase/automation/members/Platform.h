@@ -3,6 +3,8 @@
 
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/Members.h"
+#include "qzbase/automation/members/Core.h"
+#include "qzbase/automation/members/Layout.h"
 #include "qzbase/platform/GCBase.h"
 #include "qzbase/platform/GCFileUtil.h"
 #include "qzbase/platform/TFontStyle.h"
@@ -57,8 +59,75 @@ constexpr auto FactoryRows() {
               method<&GCBase::StrVector>("StrVector", {"Value"}, "A new vector of texts from a text like (a;b;c)."));
 }
 
+// ---- GCBase: the services of the system.
+
+constexpr auto SystemRows() {
+  return rows(method<&GCBase::IsBinaryEqual>("IsBinaryEqual", {byRef("pBin1"), byRef("pBin2")},
+                                             "Whether two arrays have the same bounds and bytes."),
+              method<&GCBase::GetGUID>("GetGUID", "A new globally unique identifier."),
+              method<&GCBase::GetGUIDString>("GetGUIDString", "The text of a new globally unique identifier."),
+              method<&GCBase::GUIDString>("GUIDString", {byRef("GUID")}, "The text of a globally unique identifier."),
+              method<&GCBase::OperatingSystem>("OperatingSystem", "The family of the operating system, -1 if unknown."),
+              method<&GCBase::FullOSInfo>("FullOSInfo", {"OSId", "Version", "Service"},
+                                          "The texts of the operating system: family, version, service pack."),
+              method<&GCBase::WindowsUserName>("WindowsUserName", "The name of the user."),
+              method<&GCBase::WindowsServerName>("WindowsServerName", "The name of the computer."),
+              method<&GCBase::WindowsLocalGroups>("WindowsLocalGroups", "The user's groups on this computer."),
+              method<&GCBase::WindowsCheckUser>("WindowsCheckUser", {"Domain", "UserName", "Password"},
+                                                "0 if the password is right, else the number of an error."));
+}
+
+constexpr auto WaitRows() {
+  return rows(
+      method<&GCBase::TimeInCentiSecs>("TimeInCentiSecs", "Hundredths of a second since the system started."),
+      method<&GCBase::WaitUntil>("WaitUntil", {"pTimeInCentiSecs"}, "Waits for a time of TimeInCentiSecs."),
+      method<&GCBase::SleepSecs>("SleepSecs", {"pTime"}, "Blocks the thread for some seconds."),
+      method<&GCBase::WaitSecs>("WaitSecs", {"pTimeout"}, "Waits for some seconds, or for StopFlag."),
+      method<&GCBase::SignalWindowsAppBusy>("SignalWindowsAppBusy", "Keeps the system from falling asleep."),
+      method<&GCBase::SizeOf>("SizeOf", {"Arg"}, "The length of a value's text; of a text, 4 more."),
+      get<&GCBase::DebugMode>("DebugMode", "The host's debug level."), let<&GCBase::LetDebugMode>("DebugMode"),
+      get<&GCBase::StopFlag>("StopFlag", "Whether waits and long work are to stop."),
+      let<&GCBase::LetStopFlag>("StopFlag"),
+      method<&GCBase::CheckStopFlag>("CheckStopFlag", "The number of the error of a user's interrupt, 0 without one."),
+      get<&GCBase::ErrStop>("ErrStop", "The error of a user's interrupt."),
+      get<&GCBase::SystemWaiting>("SystemWaiting", "Whether the thread waits."),
+      let<&GCBase::LetSystemWaiting>("SystemWaiting"));
+}
+
+constexpr auto DisplayRows() {
+  return rows(
+      method<&GCBase::SetDbgWindow>("SetDbgWindow", {"pDbgWnd", opt("pMaxLines", 0)}, "Sets the list of debug lines."),
+      method<&GCBase::SetDbgFileHdl>("SetDbgFileHdl", {"pHdl"}, "Sets the open file of debug lines; 0 for none."),
+      method<&GCBase::ShowDebugLine>("ShowDebugLine", {"pDbgLine"}, "Writes a debug line."),
+      method<&GCBase::SetErrorDisplay>("SetErrorDisplay", {"pErrDisplay", "pType"}, "Sets where errors are shown."),
+      method<&GCBase::DisplayError>("DisplayError", {"pErrorMessage"}, "Shows an error."),
+      method<&GCBase::SetMsgDisplay>("SetMsgDisplay", {"pMsgDisplay", "pType"}, "Sets where messages are shown."),
+      method<&GCBase::DisplayMessage>("DisplayMessage", {"pMessage"}, "Shows a message."));
+}
+
+constexpr auto FontRows() {
+  return rows(
+      method<&GCBase::SetFontStyle>("SetFontStyle", {"pIsBold", "pIsItalic", "pIsUnderlined", byRef("pIsStriked")},
+                                    "The bits of a font style."),
+      method<&GCBase::IsBold>("IsBold", {"pStyle"}, "Whether a font style is bold."),
+      method<&GCBase::IsItalic>("IsItalic", {"pStyle"}, "Whether a font style is italic."),
+      method<&GCBase::IsUnderlined>("IsUnderlined", {"pStyle"}, "Whether a font style is underlined."),
+      method<&GCBase::IsStriked>("IsStriked", {"pStyle"}, "Whether a font style is struck through."),
+      method<&GCBase::SetFontFromFontStyle>("SetFontFromFontStyle", {byRef("pFont"), byRef("pStyle")},
+                                            "Gives a font a font style."),
+      method<&GCBase::FontStyle>("FontStyle", {"pFont", opt("pColor", 0)}, "The style of a font."),
+      method<&GCBase::SetFontFromLabelStyle>("SetFontFromLabelStyle", {"pFont", byRef("pStyle")},
+                                             "Gives a font the style of a label."),
+      method<&GCBase::LabelStyle>("LabelStyle",
+                                  {"pFont", opt("pColor", 0), opt("pBorderWidth", 1), opt("pOrientation", 0),
+                                   opt("pRotation", 0), opt("pBackColor", 0xFFFFFF)},
+                                  "A label's style with a font."));
+}
+
 template <>
-inline constexpr auto members<GCBase> = table(FactoryRows());
+inline constexpr auto members<GCBase> =
+    table(FactoryRows(), SystemRows(), WaitRows(), DisplayRows(), FontRows(),
+          method<&GCBase::NewTimeStamp>("NewTimeStamp", "This moment, in local and in universal time."));
 
 template <>
 inline constexpr auto members<GCFileUtil> = table(

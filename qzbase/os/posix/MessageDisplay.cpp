@@ -2,8 +2,8 @@
 
 namespace qzbase::os {
 
-void DisplayCriticalMessage(std::u16string_view pText, std::u16string_view pCaption) {
-  PrintCriticalMessage(pText, pCaption);
+void DisplayMessage(MessageIcon, std::u16string_view pText, std::u16string_view pCaption) {
+  PrintMessage(pText, pCaption);
 }
 
 }  // namespace qzbase::os

@@ -22,12 +22,12 @@ std::wstring Wide(std::u16string_view pText) {
 
 }  // namespace
 
-void DisplayCriticalMessage(std::u16string_view pText, std::u16string_view pCaption) {
-  constexpr UINT style = MB_ICONHAND | MB_OK | MB_TASKMODAL;
+void DisplayMessage(MessageIcon pIcon, std::u16string_view pText, std::u16string_view pCaption) {
+  const UINT style = (pIcon == MessageIcon::Critical ? MB_ICONHAND : 0U) | MB_OK | MB_TASKMODAL;
   // A visible station may still have no screen; the box then fails at once, with another result than its one button's.
   const bool shown =
       IsDesktopVisible() && MessageBoxW(nullptr, Wide(pText).c_str(), Wide(pCaption).c_str(), style) == IDOK;
-  if (!shown) PrintCriticalMessage(pText, pCaption);
+  if (!shown) PrintMessage(pText, pCaption);
 }
 
 }  // namespace qzbase::os

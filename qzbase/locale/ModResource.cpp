@@ -1,0 +1,132 @@
+#include "qzbase/locale/ModResource.h"
+
+#include <exception>
+#include <string>
+#include <type_traits>
+
+#include "qzbase/core/ModError.h"
+#include "qzbase/core/StringTable.h"
+#include "qzbase/os/ThreadSlot.h"
+#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/NumberText.h"
+
+namespace qzbase::ModResource {
+namespace {
+
+using runtime::Object;
+using runtime::Raise;
+using runtime::Ref;
+using runtime::RuntimeError;
+using runtime::Variant;
+
+struct ThreadState {
+  Ref<CLocalGUI> root = runtime::New<CLocalGUI>();
+};
+
+// Takes off what stands before the first `pDelim`, everything where there is none.
+std::u16string_view TakeUpTo(char16_t pDelim, std::u16string_view& pRest) {
+  const std::u16string_view part = pRest.substr(0, pRest.find(pDelim));
+  pRest.remove_prefix(part.size() < pRest.size() ? part.size() + 1 : part.size());
+  return part;
+}
+
+void ReplaceMessage(std::u16string_view pItem) {
+  const std::u16string_view module = TakeUpTo(u'\0', pItem);
+  const std::u16string_view id = TakeUpTo(u'\0', pItem);
+  const std::int32_t position = ModError::FindErrIndex(module, id);
+  if (position > 0) ModError::Registry().Entry(position).Msg = pItem;
+}
+
+// What a call gives, nothing where it fails.
+template <class Call>
+std::invoke_result_t<Call> Attempt(Call pCall) {
+  try {
+    return pCall();
+  } catch (const std::exception&) {
+    return std::invoke_result_t<Call>();
+  }
+}
+
+Ref<Object> ObjectIn(const Variant& pValue) {
+  const auto* object = pValue.If<Ref<Object>>();
+  if (!object) Raise(RuntimeError::TypeMismatch);
+  if (!*object) Raise(RuntimeError::ObjectNotSet);
+  return *object;
+}
+
+std::u16string TextOf(Object& pObject, std::u16string_view pName) {
+  return Attempt([&] { return runtime::ToText(pObject.Get(pName)); });
+}
+
+Ref<Object> ControlAt(Object& pControls, std::int32_t pIndex) {
+  for (const std::u16string_view member : {u"", u"Item"})
+    if (const auto control = Attempt([&] { return ObjectIn(pControls.Get(member, pIndex)); })) return control;
+  return nullptr;
+}
+
+// Host code that is called may change the node: its texts are copied, and its positions checked, each time.
+void Apply(const CLocalGUI& pNode, Object& pObject) {
+  const std::int32_t count = pNode.NrProperties();
+  for (std::int32_t k = 1; k <= count; ++k)
+    Attempt([&] {
+      const std::u16string id = pNode.PropertyID(k);
+      const std::u16string value = pNode.PropertyValue(k);
+      SetGUIProperty(pObject, id, value);
+    });
+}
+
+void LocalizeControl(const CLocalGUI& pFormNode, Object& pControl) {
+  const std::u16string index = TextOf(pControl, u"Index");
+  const std::u16string name = TextOf(pControl, u"Name");
+  if (const auto node = Attempt([&] { return pFormNode.FindChild(name, index); })) Apply(*node, pControl);
+}
+
+}  // namespace
+
+void AddLocalizedString(std::u16string_view pKey, std::u16string_view pText) {
+  const std::u16string& stored = ThreadStrings().Add(pKey, pText);
+  if (stored == pText) return;
+  std::u16string info(pKey);
+  info.append(u": ").append(stored).append(u" | ").append(pText);
+  ModError::RaiseBuiltIn(BuiltInError::LocKeyExists, info);
+}
+
+void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector& pErrMsg) {
+  for (std::int32_t i = 1; i <= pMsg.Size(); ++i) {
+    const std::u16string item = pMsg.Value(i);
+    std::u16string_view text = item;
+    const std::u16string_view key = TakeUpTo(u'\0', text);
+    AddLocalizedString(key, text);
+  }
+  for (std::int32_t i = 1; i <= pErrMsg.Size(); ++i) ReplaceMessage(pErrMsg.Value(i));
+}
+
+Ref<CLocalGUI> LocalizedGUI() {
+  static os::PerThread<ThreadState> state;
+  return state->root;
+}
+
+void LocalizeForm(Object* pForm) {
+  if (!pForm) return;
+  const Ref<CLocalGUI> root = LocalizedGUI();
+  const std::int32_t position = root->ChildIndex(TextOf(*pForm, u"Name"));
+  if (position < 1) return;
+  const Ref<CLocalGUI> node = root->Child(position);
+  Apply(*node, *pForm);
+
+  const auto controls = Attempt([&] { return ObjectIn(pForm->Get(u"Controls")); });
+  if (!controls) return;
+  const std::int32_t count = Attempt([&] { return runtime::ToLong(controls->Get(u"Count")); });
+  for (std::int32_t j = 0; j < count; ++j)
+    if (const auto control = ControlAt(*controls, j)) LocalizeControl(*node, *control);
+}
+
+void SetGUIProperty(Object& pObject, std::u16string_view pID, std::u16string_view pValue) {
+  if (pID.find(u'(') == std::u16string_view::npos) return pObject.Let(pID, pValue);
+  const std::u16string_view name = TakeUpTo(u'(', pID);
+  const std::u16string_view index = TakeUpTo(u')', pID);
+  pObject.Let(name, runtime::RoundToLong(runtime::LeadingNumber(index)), pValue);
+}
+
+}  // namespace qzbase::ModResource

@@ -1,0 +1,28 @@
+#include "qzbase/os/Events.h"
+
+#include <utility>
+
+#include "qzbase/os/EventQueue.h"
+#include "qzbase/os/ThreadSlot.h"
+
+namespace qzbase::os {
+namespace {
+
+EventHook& ThreadHook() {
+  static PerThread<EventHook> hook;
+  return *hook;
+}
+
+}  // namespace
+
+void ProcessEvents() {
+  // A copy: the hook may set another one.
+  if (const EventHook hook = ThreadHook()) return hook();
+  ProcessQueuedEvents();
+}
+
+void SetEventHook(EventHook pHook) {
+  ThreadHook() = std::move(pHook);
+}
+
+}  // namespace qzbase::os

@@ -1,0 +1,7 @@
+#include "qzbase/os/EventQueue.h"
+
+namespace qzbase::os {
+
+void ProcessQueuedEvents() {}
+
+}  // namespace qzbase::os
