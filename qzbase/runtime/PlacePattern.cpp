@@ -92,10 +92,11 @@ bool AppendByPlaces(std::u16string& pText, double pValue, std::u16string_view pP
 
 bool AppendDecimal(std::u16string& pText, double pWhole, std::int32_t pDecimals, bool pNegative,
                    const LocaleRules& pRules) {
+  if (pDecimals < -kMaxPlaces) return false;
   const std::int32_t zeros = std::max(-pDecimals, 0);
   const std::int32_t decimals = std::max(pDecimals, 0);
   const Places places = {1, decimals, decimals, decimals > 0};
-  if (zeros > kMaxPlaces || !HasRoom(places, pRules)) return false;
+  if (!HasRoom(places, pRules)) return false;
   const double whole = pWhole * kExactPowers[static_cast<std::size_t>(zeros)];
   if (whole < kTooLarge) Append(pText, whole, places, pNegative, pRules);
   return whole < kTooLarge;
