@@ -1,8 +1,6 @@
 // Date patterns: any pattern formats any date or refuses it with the invalid-argument error.
-#include <cstdlib>
-
+#include "fuzz/Expect.h"
 #include "fuzz/Input.h"
-#include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/DatePattern.h"
 #include "qzbase/runtime/DateText.h"
 
@@ -13,11 +11,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t pSi
   const auto& rules = fuzz::ChooseLocale(input.Take<std::uint8_t>());
   const runtime::Date date{input.Take<double>()};
   const runtime::WeekRule week{input.Take<std::uint8_t>() % 8, input.Take<std::uint8_t>() % 4};
-  try {
+  fuzz::Succeeds({5}, [&] {
     runtime::DateText(date, rules);
     runtime::FormatDate(date, input.TakeText(pSize), rules, week);
-  } catch (const runtime::AutomationError& error) {
-    if (!error.Is(runtime::RuntimeError::InvalidArgument)) std::abort();
-  }
+  });
   return 0;
 }

@@ -1,6 +1,5 @@
 // The recogniser of dates: no text may crash it, and what it reads lies in the calendar and can be written.
-#include <cstdlib>
-
+#include "fuzz/Expect.h"
 #include "fuzz/Input.h"
 #include "qzbase/runtime/DateReader.h"
 #include "qzbase/runtime/DateText.h"
@@ -12,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t pSi
   const auto& rules = fuzz::ChooseLocale(input.Take<std::uint8_t>());
   runtime::Date date;
   if (!runtime::ReadDate(input.TakeText(pSize), date, rules)) return 0;
-  if (!(date.days > runtime::kFirstDate - 1 && date.days < runtime::kLastDate)) std::abort();
-  if (runtime::DateText(date, rules).empty()) std::abort();
+  fuzz::Require(date.days > runtime::kFirstDate - 1 && date.days < runtime::kLastDate);
+  fuzz::Require(!runtime::DateText(date, rules).empty());
   return 0;
 }

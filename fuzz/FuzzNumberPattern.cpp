@@ -1,8 +1,6 @@
 // Number patterns: any pattern formats any number or refuses it with the invalid-argument error.
-#include <cstdlib>
-
+#include "fuzz/Expect.h"
 #include "fuzz/Input.h"
-#include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/Format.h"
 
 using namespace qzbase;
@@ -12,13 +10,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t pSi
   const auto& rules = fuzz::ChooseLocale(input.Take<std::uint8_t>());
   const auto value = input.Take<double>();
   const std::u16string pattern = input.TakeText(pSize);
-  for (const runtime::Variant& variant : {runtime::Variant(value), runtime::Variant(pattern)}) {
-    try {
-      const std::u16string text = runtime::Format(variant, pattern, rules);
-      if (text.size() > 1000 + 400 * (pattern.size() + 1)) std::abort();
-    } catch (const runtime::AutomationError& error) {
-      if (error.Number() != 5 && error.Number() != 6 && error.Number() != 13) std::abort();
-    }
-  }
+  for (const runtime::Variant& variant : {runtime::Variant(value), runtime::Variant(pattern)})
+    fuzz::Succeeds({5, 6, 13}, [&] {
+      fuzz::Require(runtime::Format(variant, pattern, rules).size() <= 1000 + 400 * (pattern.size() + 1));
+    });
   return 0;
 }

@@ -44,6 +44,14 @@ class Input {
     return text;
   }
 
+  // The characters up to the next line feed, which goes with them.
+  std::u16string TakeLine() {
+    const std::uint8_t* end = std::find(data_, data_ + left_, std::uint8_t{'\n'});
+    const std::u16string text = TakeText(static_cast<std::size_t>(end - data_));
+    Skip(std::min<std::size_t>(left_, 1));
+    return text;
+  }
+
   bool IsEmpty() const { return left_ == 0; }
 
  private:
@@ -56,7 +64,8 @@ class Input {
   std::size_t left_;
 };
 
-// Two sets of rules that differ in everything a recogniser looks at.
+// Two sets of rules that differ in everything a recogniser looks at; and the second with "." between thousands, so that
+// each of the two delimiters of numbers is the other one of the first.
 inline const os::LocaleRules& ChooseLocale(std::uint8_t pChoice) {
   static const os::LocaleRules invariant;
   static const os::LocaleRules comma = [] {
@@ -73,7 +82,12 @@ inline const os::LocaleRules& ChooseLocale(std::uint8_t pChoice) {
     rules.shortMonths[11] = u"d\u00E9c.";
     return rules;
   }();
-  return pChoice % 2 ? comma : invariant;
+  static const os::LocaleRules crossed = [] {
+    os::LocaleRules rules = comma;
+    rules.thousands = rules.monetaryThousands = u".";
+    return rules;
+  }();
+  return pChoice % 2 == 0 ? invariant : pChoice % 4 == 3 ? crossed : comma;
 }
 
 }  // namespace qzbase::fuzz

@@ -2,11 +2,27 @@
 
 #include <array>
 #include <charconv>
+#include <cstddef>
+#include <cstdlib>
 #include <limits>
 
-namespace qzbase {
+#include "qzbase/runtime/ExactPowers.h"
 
+namespace qzbase {
+namespace {
+
+// Made by the compiler, which rounds every one to the nearest double.
+constexpr auto kInverses = [] {
+  auto inverses = runtime::kExactPowers;
+  for (double& power : inverses) power = 1 / power;
+  return inverses;
+}();
+
+}  // namespace
 double PowerOfTen(std::int32_t pExponent) {
+  const auto magnitude = static_cast<std::size_t>(std::abs(std::int64_t{pExponent}));
+  if (magnitude < kInverses.size()) return pExponent < 0 ? kInverses[magnitude] : runtime::kExactPowers[magnitude];
+
   using Limits = std::numeric_limits<double>;
   if (pExponent > Limits::max_exponent10) runtime::Raise(runtime::RuntimeError::Overflow);
   if (pExponent < Limits::min_exponent10 - Limits::digits10 - 1) return 0;

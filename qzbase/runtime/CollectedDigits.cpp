@@ -1,29 +1,49 @@
 #include "qzbase/runtime/CollectedDigits.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <charconv>
+#include <cstdlib>
 #include <limits>
 #include <system_error>
 
+#include "qzbase/runtime/ExactPowers.h"
+
 namespace qzbase::runtime {
 
+// Works on copies of the counts: the compiler has to take the digits that are stored for changes of any member.
 void CollectedDigits::TakeDigits(std::u16string_view& pRest) noexcept {
-  std::size_t taken = 0;
-  for (; taken < pRest.size() && IsDecimalDigit(pRest[taken]); ++taken) Add(static_cast<char>(pRest[taken]));
-  pRest.remove_prefix(taken);
+  const auto isZero = [](char16_t pCharacter) { return pCharacter == u'0'; };
+  const auto begin = pRest.begin();
+  const auto first = count_ == 0 ? std::find_if_not(begin, pRest.end(), isZero) : begin;
+  auto end = first;
+  std::size_t count = count_;
+  std::uint64_t whole = whole_;
+  for (; end != pRest.end() && IsDecimalDigit(*end); ++end) {
+    const auto digit = static_cast<char>(*end);
+    whole = whole * 10 + static_cast<std::uint64_t>(digit - '0');
+    if (count < kKept)
+      digits_[count++] = digit;
+    else
+      leftOut_ = leftOut_ || digit != '0';
+  }
+  count_ = count;
+  whole_ = whole;
+  point_ += inDecimals_ ? begin - first : end - first;
+  any_ = any_ || end != begin;
+  pRest.remove_prefix(static_cast<std::size_t>(end - begin));
 }
 
-void CollectedDigits::Add(char pDigit) noexcept {
-  any_ = true;
-  if (count_ == 0 && pDigit == '0') {
-    if (inDecimals_) --point_;
-    return;
-  }
-  if (!inDecimals_) ++point_;
-  if (count_ < kKept)
-    digits_[count_++] = pDigit;
-  else
-    leftOut_ = leftOut_ || pDigit != '0';
+// Of few digits and a small power of ten both are exact, so that one operation gives the nearest number; unless the
+// processor computes with more bits than a double has.
+bool CollectedDigits::ToExact(double& pValue) const noexcept {
+  constexpr std::size_t kMaxDigits = std::numeric_limits<double>::digits10;
+  const std::int64_t power = Point() - static_cast<std::int64_t>(count_);
+  const auto magnitude = static_cast<std::uint64_t>(std::abs(power));
+  if (FLT_EVAL_METHOD != 0 || count_ > kMaxDigits || magnitude >= kExactPowers.size()) return false;
+  const auto number = static_cast<double>(whole_);
+  pValue = power < 0 ? number / kExactPowers[magnitude] : number * kExactPowers[magnitude];
+  return true;
 }
 
 // The number as std::from_chars reads it: whole digits and an exponent.
@@ -43,7 +63,7 @@ std::size_t CollectedDigits::Write(Scientific& pText) const noexcept {
 
 bool CollectedDigits::ToNumber(bool pNegative, double& pValue) const noexcept {
   double value = 0;
-  if (count_ > 0) {
+  if (count_ > 0 && !ToExact(value)) {
     Scientific text;
     const std::size_t size = Write(text);
     const bool outOfRange = std::from_chars(text.data(), text.data() + size, value).ec != std::errc();

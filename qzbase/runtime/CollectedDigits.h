@@ -39,7 +39,7 @@ class CollectedDigits {
 
   using Scientific = std::array<char, kKept + kTail>;
 
-  void Add(char pDigit) noexcept;
+  bool ToExact(double& pValue) const noexcept;
   std::size_t Write(Scientific& pText) const noexcept;
   std::int64_t Point() const noexcept { return point_ + exponent_; }
   char DigitAt(std::int64_t pIndex) const noexcept;    // '0' outside the digits
@@ -48,7 +48,8 @@ class CollectedDigits {
 
   std::array<char, kKept> digits_;  // the first `count_` are set; never begins with a zero
   std::size_t count_ = 0;
-  std::int64_t point_ = 0;  // 0.digits x 10^(point_ + exponent_)
+  std::uint64_t whole_ = 0;  // the digits as a number, as long as it has room for them
+  std::int64_t point_ = 0;   // 0.digits x 10^(point_ + exponent_)
   std::int32_t exponent_ = 0;
   bool inDecimals_ = false;
   bool any_ = false;

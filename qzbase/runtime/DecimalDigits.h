@@ -18,6 +18,7 @@ class DecimalDigits {
  public:
   static constexpr std::int32_t kMaxDigits = 17;
   static constexpr std::int32_t kTextDigits = 15;  // what a double's text shows
+  static constexpr std::int32_t kFloatDigits = 7;  // and a single's
 
   // The nearest decimal number of at most `pMaxDigits` digits (1 to 17), trailing zeros cut; a tie goes to the even
   // digit of the exact binary value.
@@ -28,6 +29,11 @@ class DecimalDigits {
   bool IsZero() const noexcept { return count_ == 0 && finite_; }
   std::string_view Digits() const noexcept { return {digits_.data(), static_cast<std::size_t>(count_)}; }  // '0' to '9'
   std::int32_t Point() const noexcept { return point_; }
+
+  bool operator==(const DecimalDigits& pOther) const noexcept {
+    return negative_ == pOther.negative_ && finite_ == pOther.finite_ && point_ == pOther.point_ &&
+           Digits() == pOther.Digits();
+  }
 
   // The digit of value 10^pPower, '0' outside the digits: DigitAt(0) is the ones, DigitAt(-1) the tenths.
   char DigitAt(std::int32_t pPower) const noexcept {

@@ -1,8 +1,5 @@
 #include "qzbase/runtime/Format.h"
 
-#include <array>
-#include <charconv>
-#include <cmath>
 #include <optional>
 
 #include "qzbase/runtime/AutomationError.h"
@@ -13,21 +10,12 @@
 #include "qzbase/runtime/NumberSection.h"
 #include "qzbase/runtime/NumberText.h"
 #include "qzbase/runtime/PatternPieces.h"
+#include "qzbase/runtime/PlacePattern.h"
+#include "qzbase/runtime/ShownNumber.h"
 #include "qzbase/runtime/TextPattern.h"
 
 namespace qzbase::runtime {
 namespace {
-
-// A single through a pattern has the digits of its own text: 0.1 is 0.1000000000 and not 0.1000000015.
-double AsShown(float pValue) noexcept {
-  if (!std::isfinite(pValue)) return pValue;
-  std::array<char, 32> buffer{};
-  const char* end =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), pValue, std::chars_format::scientific, 6).ptr;
-  double value = 0;
-  std::from_chars(buffer.data(), end, value);
-  return value;
-}
 
 // Empty for a text that is neither a number nor a date.
 std::optional<double> NumberOfText(std::u16string_view pText, const LocaleRules& pRules) {
@@ -38,6 +26,7 @@ std::optional<double> NumberOfText(std::u16string_view pText, const LocaleRules&
   return std::nullopt;
 }
 
+// A single through a pattern has the digits of its own text: 0.1 is 0.1000000000 and not 0.1000000015.
 std::optional<double> NumberOf(const Variant& pValue, const LocaleRules& pRules) {
   if (const double* number = pValue.If<double>()) return *number;
   if (const float* number = pValue.If<float>()) return AsShown(*number);
@@ -67,9 +56,8 @@ std::u16string FormatAsDate(const Variant& pValue, double pDays, std::u16string_
   return FormatDate({pDays}, pPattern, pRules, pWeek);
 }
 
-}  // namespace
-
-std::u16string Format(const Variant& pValue, std::u16string_view pPattern, const LocaleRules& pRules, WeekRule pWeek) {
+std::u16string FormatByKind(const Variant& pValue, std::u16string_view pPattern, const LocaleRules& pRules,
+                            WeekRule pWeek) {
   if (pValue.IsNull()) return FormatNull(pPattern, pRules);
   if (pPattern.empty()) return DefaultText(pValue, pRules);
 
@@ -85,6 +73,16 @@ std::u16string Format(const Variant& pValue, std::u16string_view pPattern, const
   if (sections.Kind(index) == PatternKind::Date)
     return FormatAsDate(pValue, *number, sections.Section(index), pRules, pWeek);
   return FormatNumber(*number, pPattern, pRules);
+}
+
+}  // namespace
+
+std::u16string Format(const Variant& pValue, std::u16string_view pPattern, const LocaleRules& pRules, WeekRule pWeek) {
+  std::u16string text;
+  const double* number = pValue.If<double>();
+  if (number == nullptr || !AppendByPlaces(text, *number, pPattern, pRules))
+    text = FormatByKind(pValue, pPattern, pRules, pWeek);
+  return text;
 }
 
 }  // namespace qzbase::runtime

@@ -13,8 +13,6 @@
 namespace qzbase::runtime {
 namespace {
 
-constexpr std::int32_t kFloatDigits = 7;
-
 // Gathers a number text and appends it in one go at the end. What is gathered never outgrows the room: a sign, the
 // digits of a double with the zeros round them, the delimiter and an exponent.
 class Piece {
@@ -132,7 +130,7 @@ std::u16string NumberText(double pValue, const LocaleRules& pRules) {
 
 std::u16string NumberText(float pValue, const LocaleRules& pRules) {
   std::u16string text;
-  Append(text, static_cast<double>(pValue), kFloatDigits, pRules);
+  Append(text, static_cast<double>(pValue), DecimalDigits::kFloatDigits, pRules);
   return text;
 }
 

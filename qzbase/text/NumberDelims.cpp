@@ -2,22 +2,22 @@
 
 #include <algorithm>
 
-#include "qzbase/text/ModString.h"
-
 namespace qzbase::ModConvert {
 
-constexpr std::u16string_view kPoint = u".";
+constexpr char16_t kPoint = u'.';
 
-std::u16string_view LocalizedNumber(std::u16string_view pText, bool pLocalized, std::u16string& pRoom,
+std::u16string_view LocalizedNumber(std::u16string_view pText, bool pLocalized, ShortText& pRoom,
                                     const runtime::LocaleRules& pRules) {
   const std::u16string_view decimal = WindowsDecimalDelim(pRules);
-  if (pLocalized || decimal == kPoint || pText.find(kPoint) == std::u16string_view::npos) return pText;
-  return pRoom = ModString::ReplaceAll(pText, kPoint, decimal);
+  if (pLocalized || decimal.starts_with(kPoint) || pText.find(kPoint) == std::u16string_view::npos) return pText;
+  for (std::size_t at = 0; (at = pText.find(kPoint)) != std::u16string_view::npos; pText.remove_prefix(at + 1))
+    pRoom.Append(pText.substr(0, at)).Append(decimal);
+  return pRoom.Append(pText).Text();
 }
 
 void DelocalizeNumber(std::u16string& pText, const runtime::LocaleRules& pRules) {
   const std::u16string_view decimal = WindowsDecimalDelim(pRules);
-  if (!decimal.empty() && decimal != kPoint) std::replace(pText.begin(), pText.end(), decimal.front(), kPoint.front());
+  if (!decimal.empty()) std::replace(pText.begin(), pText.end(), decimal.front(), kPoint);
 }
 
 }  // namespace qzbase::ModConvert

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "qzbase/runtime/Locale.h"
+#include "qzbase/text/ShortText.h"
 
 namespace qzbase::ModConvert {
 
@@ -21,7 +22,7 @@ inline std::u16string_view WindowsThousandDelim(const runtime::LocaleRules& pRul
 
 // A number text as the locale writes it: a localised one is that already, in others "." is the decimal delimiter. The
 // result is a view of the text itself or, where something was to be replaced, of `pRoom`.
-std::u16string_view LocalizedNumber(std::u16string_view pText, bool pLocalized, std::u16string& pRoom,
+std::u16string_view LocalizedNumber(std::u16string_view pText, bool pLocalized, ShortText& pRoom,
                                     const runtime::LocaleRules& pRules);
 
 // The other way: takes the delimiter out of a number text that the locale has written.

@@ -7,6 +7,7 @@
 #include "qzbase/core/ModError.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/NumberText.h"
+#include "qzbase/runtime/ShownNumber.h"
 #include "qzbase/runtime/TextCompare.h"
 #include "qzbase/text/ModString.h"
 #include "qzbase/text/PlainNumber.h"
@@ -88,12 +89,6 @@ std::u16string Between(std::u16string_view pKey) {
   return u' ' + LocalizedText(pKey) + u' ';
 }
 
-// Whether the number's text is that of a whole number. Texts are made only where binary fractions leave it open.
-bool ShowsAsWhole(double pNumber) {
-  const double whole = std::nearbyint(pNumber);
-  return whole == pNumber || runtime::NumberText(whole) == runtime::NumberText(pNumber);
-}
-
 }  // namespace
 
 std::int32_t CheckRangeStringValid(std::u16string_view Range) {
@@ -128,7 +123,9 @@ bool IsInRange(double Value, std::u16string_view Range, std::u16string_view Step
   Bounds bounds;
   if (!TakeBounds(Range, bounds) || !ReadBound(bounds.lower, lower) || !ReadBound(bounds.upper, upper)) return false;
   if (lower > Value || upper < Value || !ReadBound(Step, step)) return false;
-  return step == 0 || ShowsAsWhole(Divide(Add(Value, -lower), step));
+  if (step == 0) return true;
+  const double steps = Divide(Add(Value, -lower), step);
+  return runtime::ShowSame(steps, std::nearbyint(steps));
 }
 
 }  // namespace qzbase::ModString

@@ -40,7 +40,7 @@ bool HoldsText(std::u16string_view pText, std::u16string_view pSought, const Loc
 }
 
 double CheckedDouble(std::u16string_view pValue, bool pLocalized, const LocaleRules& pRules) {
-  std::u16string room;
+  ShortText room;
   const std::u16string_view text = LocalizedNumber(pValue, pLocalized, room, pRules);
   const std::u16string_view thousands = WindowsThousandDelim(pRules);
   if (Holds(text, thousands) && !runtime::EqualText(thousands, WindowsDecimalDelim(pRules), pRules))
@@ -72,9 +72,8 @@ void CheckDateText(std::u16string_view pValue, const LocaleRules& pRules) {
 bool IsNamed(std::u16string_view pValue, std::u16string_view pRange, const LocaleRules& pRules) {
   constexpr std::u16string_view kQuote = u"'";
   if (pRange.find(kQuote) == kNotFound) return false;
-  std::u16string name(kQuote);
-  name.append(pValue).append(kQuote);
-  return HoldsText(pRange, name, pRules);
+  ShortText name;
+  return HoldsText(pRange, name.Append(kQuote).Append(pValue).Append(kQuote).Text(), pRules);
 }
 
 bool IsTextAllowed(std::u16string_view pValue, std::u16string_view pRange, const LocaleRules& pRules) {

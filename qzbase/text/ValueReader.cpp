@@ -14,7 +14,7 @@ using runtime::LocaleRules;
 using runtime::Variant;
 
 double StringToDouble(std::u16string_view pValue, bool pLocalized, const LocaleRules& pRules) {
-  std::u16string room;
+  ShortText room;
   double value = kInvalidDouble;
   runtime::ReadNumber(LocalizedNumber(pValue, pLocalized, room, pRules), value, pRules);
   return value;

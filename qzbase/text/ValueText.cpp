@@ -1,17 +1,18 @@
 #include "qzbase/text/ValueText.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "qzbase/core/Arithmetic.h"
+#include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/CollectedDigits.h"
 #include "qzbase/runtime/Convert.h"
 #include "qzbase/runtime/DatePattern.h"
-#include "qzbase/runtime/DecimalDigits.h"
 #include "qzbase/runtime/Format.h"
 #include "qzbase/runtime/NumberPattern.h"
 #include "qzbase/runtime/NumberText.h"
+#include "qzbase/runtime/PlacePattern.h"
+#include "qzbase/runtime/ShownNumber.h"
 #include "qzbase/runtime/TextCompare.h"
 #include "qzbase/text/EnumRange.h"
 #include "qzbase/text/ModString.h"
@@ -32,24 +33,30 @@ bool IsFiguresFormat(std::u16string_view pFormat) {
 }
 
 std::int32_t FiguresOf(std::u16string_view pFormat) {
-  return runtime::RoundToLong(std::trunc(runtime::LeadingNumber(pFormat.substr(kFiguresMark.size()))));
+  const std::u16string_view figures = pFormat.substr(kFiguresMark.size());
+  if (figures.size() == 1 && runtime::IsDecimalDigit(figures.front())) return figures.front() - u'0';
+  return runtime::RoundToLong(std::trunc(runtime::LeadingNumber(figures)));
 }
 
 // Digits before the point; of magnitudes below 1 the fewer the smaller they are. Error 6 for what is not finite.
 std::int32_t IntegerDigits(double pValue) {
-  return pValue == 0 ? 0 : runtime::RoundToLong(std::trunc(std::log10(std::fabs(pValue))) + 1);
+  if (!std::isfinite(pValue)) runtime::Raise(runtime::RuntimeError::Overflow);
+  return pValue == 0 ? 0 : static_cast<std::int32_t>(std::log10(std::fabs(pValue))) + 1;
 }
 
-// The number that the text of a number shows: what it has too much or too little in binary is gone.
-double AsShown(double pValue) {
-  if (!std::isfinite(pValue)) return pValue;
-  std::array<char, 32> text{};
-  const char* end = std::to_chars(text.data(), text.data() + text.size(), pValue, std::chars_format::scientific,
-                                  runtime::DecimalDigits::kTextDigits - 1)
-                        .ptr;
-  double shown = 0;
-  std::from_chars(text.data(), end, shown);
-  return shown;
+// The number rounded to its last figure, printed with as many decimals as there are figures behind the point.
+void AppendFigures(std::u16string& pText, double pValue, std::int32_t pSigFigs, const LocaleRules& pRules) {
+  const auto decimals = runtime::CheckedNarrow<std::int32_t>(std::int64_t{pSigFigs} - IntegerDigits(pValue));
+  const double power = PowerOfTen(decimals);
+  const double scaled = Multiply(pValue, power);
+  double whole = 0;
+  if (runtime::RoundClearly(std::fabs(scaled), whole) &&
+      runtime::AppendDecimal(pText, whole, decimals, pValue < 0 && whole > 0, pRules))
+    return;
+  whole = std::trunc(runtime::AsShown(scaled) + 0.5 * Sign(pValue));
+  std::u16string pattern = u"#0";
+  if (decimals > 0) pattern.append(u".").append(static_cast<std::size_t>(decimals), u'0');
+  pText += runtime::FormatNumber(Divide(whole, power), pattern, pRules);
 }
 
 // A moment whose parts cannot be taken for each other in any short date or time.
@@ -94,21 +101,20 @@ std::u16string LongToString(std::int32_t pValue, std::u16string_view pFormat, co
 }
 
 std::u16string DoubleToString(double pValue, std::u16string_view pFormat, bool pLocalize, const LocaleRules& pRules) {
-  if (pValue == kInvalidDouble) return std::u16string(kInvalidString);
-  std::u16string text = IsFiguresFormat(pFormat) ? DoubleToStringSF(pValue, FiguresOf(pFormat), pRules)
-                                                 : runtime::Format(pValue, pFormat, pRules);
+  std::u16string text = pValue == kInvalidDouble   ? std::u16string(kInvalidString)
+                        : IsFiguresFormat(pFormat) ? DoubleToStringSF(pValue, FiguresOf(pFormat), pRules)
+                                                   : runtime::Format(pValue, pFormat, pRules);
   if (!pLocalize) DelocalizeNumber(text, pRules);
   return text;
 }
 
 std::u16string DoubleToStringSF(double pValue, std::int32_t pSigFigs, const LocaleRules& pRules) {
-  if (pValue == kInvalidDouble) return std::u16string(kInvalidString);
-  const auto decimals = runtime::CheckedNarrow<std::int32_t>(std::int64_t{pSigFigs} - IntegerDigits(pValue));
-  const double power = PowerOfTen(decimals);
-  const double rounded = std::trunc(AsShown(Multiply(pValue, power)) + 0.5 * Sign(pValue));
-  std::u16string pattern = u"#0";
-  if (decimals > 0) pattern.append(u".").append(static_cast<std::size_t>(decimals), u'0');
-  return runtime::FormatNumber(Divide(rounded, power), pattern, pRules);
+  std::u16string text;
+  if (pValue == kInvalidDouble)
+    text = kInvalidString;
+  else
+    AppendFigures(text, pValue, pSigFigs, pRules);
+  return text;
 }
 
 std::u16string ColorToString(std::int32_t pValue) {

@@ -2,6 +2,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <random>
 #include <sstream>
 #include <string>
 
@@ -94,6 +95,21 @@ TEST(NumberPattern, PrintsWhatTheTableLacks) {
   for (const auto& row : rows)
     EXPECT_EQ(ToUtf8(FormatNumber(row.value, row.pattern, rules)), ToUtf8(row.text)) << ToUtf8(row.pattern);
   EXPECT_EQ(FormatNumber(1e308, u"#,##0", rules).size(), 309U + 102U);
+}
+
+// Halves of the last place and their neighbours, through patterns of places alone and the same with an empty literal,
+// which sends them the long way.
+TEST(NumberPattern, TheShortWayPrintsWhatTheLongWayDoes) {
+  std::mt19937_64 random(17);
+  const auto& rules = TestLocale("de-DE");
+  for (int i = 0; i < 20000; ++i) {
+    double value = (static_cast<double>(random() % 1'000'000) + 0.5) / std::pow(10, random() % 16);
+    for (std::uint64_t steps = random() % 4; steps > 0; --steps) value = std::nextafter(value, 0);
+    if (i % 2 != 0) value = -value;
+    for (const std::u16string pattern : {u"0", u"#.##", u".0##", u"000.00", u"#0.0000#", u"0.0000000000000000"})
+      ASSERT_EQ(ToUtf8(Format(value, pattern, rules)), ToUtf8(Format(value, pattern + u"\"\"", rules)))
+          << ToUtf8(pattern) << " " << std::hexfloat << value;
+  }
 }
 
 TEST(NumberPattern, RefusesWhatIsNoNumberPattern) {

@@ -250,11 +250,23 @@ TEST_F(Converting, WhatIsShownPassesAndReadsBack) {
 
 // Tables of a hundred thousand cells are shown and checked cell by cell: nothing but a long result takes memory.
 TEST_F(Converting, CellsCostNoMemory) {
-  const std::size_t before = RequestedBytes();
+  std::size_t before = RequestedBytes();
   EXPECT_EQ(GCConvert::ValueToString(1234.5, EVTDouble, u"0.00").size(), 7U);
-  GCConvert::CheckValue(u"1234567.5", EVTDouble, u"[0;10000000]", u"0.5");
-  GCConvert::CheckValue(u"a long item of the list", EVTString, u"{some other item;A long item of the list}", u"");
+  EXPECT_EQ(GCConvert::ValueToString(1234.5, EVTDouble, u"SF3").size(), 4U);
   EXPECT_EQ(RequestedBytes(), before);
+  for (const std::string_view locale : {"en-US", "de-DE"}) {
+    const runtime::ScopedLocale scope(TestLocale(locale));
+    for (int i = 0; i < 2; ++i) {  // at the first time the locale's order is made
+      before = RequestedBytes();
+      GCConvert::CheckValue(u"123456789.3", EVTDouble, u"[0;1000000000;'as before']", u"0.1", u"", false);
+      GCConvert::CheckValue(u"As Before", EVTDouble, u"[0;1000000000;'as before']", u"");
+      GCConvert::CheckValue(u"1000000000", EVTLong, u"[0.1;2E9]", u"0.3");
+      GCConvert::CheckValue(u"28 November 2031 20:15", EVTDate, u"", u"");
+      GCConvert::CheckValue(u"a long item of the list", EVTString, u"{some other item;A long item of the list}", u"");
+      EXPECT_EQ(GCConvert::StringToDouble(u"123456789.3", false), 123456789.3);
+    }
+    EXPECT_EQ(RequestedBytes(), before) << locale;
+  }
 }
 
 TEST_F(Converting, NamesOfTypesAndKindsOfRanges) {
