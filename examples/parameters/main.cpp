@@ -43,7 +43,7 @@ std::u16string Hint(const TEntryDesc& pDesc) {
 void ShowSheet(const CEntryDescs& pSheet) {
   std::printf("The parameter sheet:\n");
   for (std::int32_t i = 1; i <= pSheet.Size(); ++i) {
-    const Ref<TEntryDesc> desc = pSheet.DescRef(i);
+    const Ref<TEntryDesc>& desc = pSheet.DescRef(i);
     Print("  %-26s %-8s %s\n", desc->Name() + GCStrings::FormatUnit(desc->Unit()),
           GCConvert::VarTypeToString(desc->VarType()), Hint(*desc));
   }
@@ -66,7 +66,7 @@ void Enter(CTypedInfo& pValues, const TypedText& pTyped) {
 
 void ShowValues(const CTypedInfo& pValues) {
   for (std::int32_t i = 1; i <= pValues.NrInfos(); ++i) {
-    const Ref<TEntryDesc> desc = pValues.DescRef(i);
+    const Ref<TEntryDesc>& desc = pValues.DescRef(i);
     Print("  %-18s %s %s\n", desc->Name(), GCConvert::ValueToStringVD(pValues.Value(i), *desc->VarDesc()),
           desc->Unit());
   }

@@ -14,14 +14,17 @@ namespace {
 
 constexpr double kMostTicks = 500;
 constexpr double kDaySeconds = 86400;
-constexpr std::int64_t kDay = 86400;
+constexpr std::int64_t kMinute = 60;
+constexpr std::int64_t kHour = 60 * kMinute;
+constexpr std::int64_t kDay = 24 * kHour;
 constexpr std::int64_t kWeek = 7 * kDay;
 constexpr double kMonthDays = 30.436875;
 constexpr std::int32_t kYearMonths = 12;
 constexpr double kFirstMonday = 2;  // 1900-01-01
 
 constexpr std::array<std::int64_t, 16> kSecondSteps = {
-    1, 5, 15, 30, 60, 5 * 60, 15 * 60, 30 * 60, 3600, 10800, 6 * 3600, 12 * 3600, kDay, 2 * kDay, kWeek, 2 * kWeek};
+    1,     5,         15,        30,         kMinute, 5 * kMinute, 15 * kMinute, 30 * kMinute,
+    kHour, 3 * kHour, 6 * kHour, 12 * kHour, kDay,    2 * kDay,    kWeek,        2 * kWeek};
 constexpr std::array<std::int32_t, 3> kMonthSteps = {1, 3, 6};
 
 bool Fits(double pDays, double pStepDays, double pMost) {
@@ -38,7 +41,7 @@ std::vector<double> MonthTicks(Range pRange, std::int32_t pStep) {
   std::vector<double> ticks;
   const std::int32_t first = MonthOf(pRange.min) / pStep * pStep;
   const std::int32_t last = MonthOf(pRange.max);
-  if ((last - first) / pStep > kMostTicks) return ticks;
+  if (last - first > kMostTicks * pStep) return ticks;
   for (std::int32_t month = first; month <= last; month += pStep) {
     const std::int32_t year = month / kYearMonths;
     if (!runtime::IsValidDay(year, month % kYearMonths + 1, 1)) continue;

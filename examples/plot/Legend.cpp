@@ -97,8 +97,9 @@ void LegendBox::PutInRows(double pMostWidth, double pMostHeight) {
   const auto rows = static_cast<std::size_t>(std::max(1.0, (pMostHeight - 2 * kPadding) / RowHeight()));
   if (entries_.size() > rows * inRow) LeaveOut(rows * inRow);
   for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const auto row = static_cast<double>(i / inRow);
-    entries_[i].place = {kPadding + static_cast<double>(i % inRow) * column, kPadding + row * RowHeight()};
+    const std::size_t row = i / inRow;
+    entries_[i].place = {kPadding + static_cast<double>(i % inRow) * column,
+                         kPadding + static_cast<double>(row) * RowHeight()};
     width_ = std::max(width_, entries_[i].place.x + column - 2 * kGap + kPadding);
     height_ = entries_[i].place.y + RowHeight() + kPadding;
   }

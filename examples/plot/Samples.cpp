@@ -195,7 +195,8 @@ std::string SamplesSvg() {
   Svg svg(kColumns * kWidth, static_cast<double>(rows) * kHeight, u"Samples of graph layouts");
   for (std::size_t i = 0; i < samples.size(); ++i) {
     const double left = static_cast<double>(i % kColumns) * kWidth;
-    const double top = static_cast<double>(i / kColumns) * kHeight;
+    const std::size_t row = i / kColumns;
+    const double top = static_cast<double>(row) * kHeight;
     DrawGraph(svg, {left, top, left + kWidth, top + kHeight}, *samples[i].layout, *samples[i].table);
   }
   return svg.Finish();

@@ -20,7 +20,7 @@ namespace {
 
 void ShowInfo(const CTypedInfo& pInfo) {
   for (std::int32_t i = 1; i <= pInfo.NrInfos(); ++i) {
-    const Ref<TEntryDesc> desc = pInfo.DescRef(i);
+    const Ref<TEntryDesc>& desc = pInfo.DescRef(i);
     std::printf("  %s = %s %s\n", os::ToUtf8(desc->Name()).c_str(),
                 os::ToUtf8(GCConvert::ValueToStringVD(pInfo.Value(i), *desc->VarDesc())).c_str(),
                 os::ToUtf8(desc->Unit()).c_str());

@@ -26,7 +26,6 @@
 
 #include <cstdint>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "qzbase/core/QZVarType.h"
@@ -81,8 +80,8 @@ class CEntryData final : public runtime::Object {
   const runtime::Variant& Value(std::int32_t pColIdx, std::int32_t pRowIdx) const {
     return ColumnAt(pColIdx).Value(pRowIdx);
   }
-  void LetValue(std::int32_t pColIdx, std::int32_t pRowIdx, runtime::Variant pValue) {
-    ColumnAt(pColIdx).LetValue(pRowIdx, std::move(pValue));
+  void LetValue(std::int32_t pColIdx, std::int32_t pRowIdx, const runtime::Variant& pValue) {
+    ColumnAt(pColIdx).LetValue(pRowIdx, pValue);
   }
 
   // Sorts the rows by one column, in the order of `CVector.Sort`; rows with equal keys keep theirs. Error 9 where a

@@ -1,5 +1,7 @@
 #include "qzbase/data/CTable.h"
 
+#include <utility>
+
 #include "qzbase/persist/Record.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"

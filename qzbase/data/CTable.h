@@ -26,7 +26,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "qzbase/data/CEntryData.h"
 #include "qzbase/desc/CEntryDescs.h"
@@ -80,8 +79,8 @@ class CTable final : public runtime::Object {
   const runtime::Variant& Value(std::int32_t pColIdx, std::int32_t pRowIdx) const {
     return data_->Value(pColIdx, pRowIdx);
   }
-  void LetValue(std::int32_t pColIdx, std::int32_t pRowIdx, runtime::Variant pValue) {
-    data_->LetValue(pColIdx, pRowIdx, std::move(pValue));
+  void LetValue(std::int32_t pColIdx, std::int32_t pRowIdx, const runtime::Variant& pValue) {
+    data_->LetValue(pColIdx, pRowIdx, pValue);
   }
 
   // Does nothing: it stands for programs that call it.
