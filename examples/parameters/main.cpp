@@ -1,18 +1,22 @@
 // The usual way of a value through the library: described, typed in by a user, checked, refused or accepted, converted,
-// saved with its descriptor, and read back.
+// kept in the registry store with its descriptor, and back again after a restart.
 //
-//   parameters OUTPUT.qzb
+//   parameters enter       a user fills in the sheet
+//   parameters restart     another process finds the values; the user now speaks German
 #include <cstdio>
 #include <exception>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
+#include "examples/parameters/German.h"
 #include "examples/parameters/Sheet.h"
-#include "examples/support/Files.h"
 #include "qzbase/core/GCError.h"
 #include "qzbase/desc/CTypedInfo.h"
+#include "qzbase/locale/GCResource.h"
 #include "qzbase/os/LocaleRules.h"
 #include "qzbase/os/Utf8.h"
+#include "qzbase/persist/GCRegistry.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/Locale.h"
 #include "qzbase/text/GCConvert.h"
@@ -22,6 +26,9 @@ using namespace qzbase;
 
 namespace {
 
+constexpr std::u16string_view kSection = u"Software\\QZBase\\Examples";
+constexpr std::u16string_view kKey = u"ClimateChamber";
+
 void Print(const char* pFormat, std::u16string_view pFirst, std::u16string_view pSecond = {},
            std::u16string_view pThird = {}) {
   std::printf(pFormat, os::ToUtf8(pFirst).c_str(), os::ToUtf8(pSecond).c_str(), os::ToUtf8(pThird).c_str());
@@ -29,7 +36,8 @@ void Print(const char* pFormat, std::u16string_view pFirst, std::u16string_view 
 
 // What a user may enter: the range in words, or how a date is written.
 std::u16string Hint(const TEntryDesc& pDesc) {
-  return pDesc.VarType() == EVTDate ? u"as " + pDesc.OutFormat() : GCStrings::HumanReadable(pDesc.Range());
+  return pDesc.VarType() == EVTDate ? GCResource::LocalizedString(u"as") + u" " + pDesc.OutFormat()
+                                    : GCStrings::HumanReadable(pDesc.Range());
 }
 
 void ShowSheet(const CEntryDescs& pSheet) {
@@ -53,7 +61,7 @@ void Enter(CTypedInfo& pValues, const TypedText& pTyped) {
     return;
   }
   pValues.SetValue(pTyped.id, GCConvert::StringToValueVD(pTyped.text, *desc.VarDesc()));
-  Print("  %-18s %-22s accepted\n", desc.Name(), typed);
+  Print("  %-18s %-22s %s\n", desc.Name(), typed, GCResource::LocalizedString(u"accepted"));
 }
 
 void ShowValues(const CTypedInfo& pValues) {
@@ -64,42 +72,53 @@ void ShowValues(const CTypedInfo& pValues) {
   }
 }
 
-void Run(const std::string& pPath) {
-  const runtime::ScopedLocale german(os::NamedLocaleRules("de-DE"));
+void TypeIn(CTypedInfo& pValues) {
+  for (const TypedText& typed : TypedTexts()) Enter(pValues, typed);
+}
+
+void FillIn() {
   CTypedInfo values;
   values.SetupFrom(*ChamberSheet());
   ShowSheet(*values.DescsRef());
-
   std::printf("\nWhat a user types, whose decimal delimiter is a comma:\n");
-  for (const TypedText& typed : TypedTexts()) Enter(values, typed);
+  TypeIn(values);
 
   CBuffer buffer;
   values.SaveToBuffer(&buffer);
-  SaveFile(pPath, buffer);
-  const Ref<CBuffer> saved = LoadFile(pPath);
-  CTypedInfo loaded;
-  loaded.LoadFromBuffer(saved.get());
-  if (!loaded.IsEqual(values)) throw std::runtime_error("does not read back as it was written");
+  GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, kSection, kKey, buffer);
+  std::printf("\nKept %d bytes in the registry store.\n", buffer.Size());
+}
 
-  // The next run begins with its own descriptors, which may be newer ones, and takes the values over.
-  CTypedInfo next;
-  next.SetupFrom(*ChamberSheet());
-  next.UpdateFrom(loaded);
-  std::printf("\nSaved %d bytes into %s and read back:\n", buffer.Size(), pPath.c_str());
-  ShowValues(next);
+// The restarted program begins with its own descriptors, which may be newer ones, and takes the values over.
+void Restart() {
+  const Ref<CBuffer> kept = GCRegistry::REGGetBuffer(HKEY_CURRENT_USER, kSection, kKey);
+  CTypedInfo loaded;
+  loaded.LoadFromBuffer(kept.get());
+  if (loaded.NrInfos() == 0) throw std::runtime_error("nothing is kept in the registry store yet");
+  CTypedInfo values;
+  values.SetupFrom(*ChamberSheet());
+  values.UpdateFrom(loaded);
+  std::printf("What the registry store has kept:\n");
+  ShowValues(values);
+
+  SpeakGerman();
+  std::printf("\nThe same texts, typed by a user who speaks German:\n");
+  TypeIn(values);
 }
 
 }  // namespace
 
 int main(int pCount, char** pArguments) {
-  if (pCount != 2) {
-    std::fprintf(stderr, "usage: parameters OUTPUT.qzb\n");
+  const std::string_view step = pCount == 2 ? pArguments[1] : "";
+  if (step != "enter" && step != "restart") {
+    std::fprintf(stderr, "usage: parameters enter | restart\n");
     return 2;
   }
   try {
-    Run(pArguments[1]);
+    const runtime::ScopedLocale german(os::NamedLocaleRules("de-DE"));
+    step == "enter" ? FillIn() : Restart();
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "parameters: %s: %s\n", pArguments[1], error.what());
+    std::fprintf(stderr, "parameters: %s\n", error.what());
     return 1;
   }
   return 0;

@@ -9,6 +9,7 @@
 #include "qzbase/os/ThreadSlot.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/IgnoreErrors.h"
 #include "qzbase/runtime/NumberText.h"
 
 namespace qzbase::ModResource {
@@ -78,8 +79,21 @@ void Apply(const CLocalGUI& pNode, Object& pObject) {
 
 void LocalizeControl(const CLocalGUI& pFormNode, Object& pControl) {
   const std::u16string index = TextOf(pControl, u"Index");
-  const std::u16string name = TextOf(pControl, u"Name");
-  if (const auto node = Attempt([&] { return pFormNode.FindChild(name, index); })) Apply(*node, pControl);
+  const auto find = [&] { return pFormNode.FindChild(runtime::ToText(pControl.Get(u"Name")), index); };
+  if (const auto node = Attempt(find)) Apply(*node, pControl);
+}
+
+void Localize(Object& pForm) {
+  const Ref<CLocalGUI> root = LocalizedGUI();
+  const std::int32_t position = root->ChildIndex(TextOf(pForm, u"Name"));
+  if (position < 1) return;
+  const Ref<CLocalGUI> node = root->Child(position);
+  Apply(*node, pForm);
+
+  const auto controls = ObjectIn(pForm.Get(u"Controls"));
+  const std::int32_t count = runtime::ToLong(controls->Get(u"Count"));
+  for (std::int32_t j = 0; j < count; ++j)
+    if (const auto control = ControlAt(*controls, j)) LocalizeControl(*node, *control);
 }
 
 }  // namespace
@@ -108,18 +122,7 @@ Ref<CLocalGUI> LocalizedGUI() {
 }
 
 void LocalizeForm(Object* pForm) {
-  if (!pForm) return;
-  const Ref<CLocalGUI> root = LocalizedGUI();
-  const std::int32_t position = root->ChildIndex(TextOf(*pForm, u"Name"));
-  if (position < 1) return;
-  const Ref<CLocalGUI> node = root->Child(position);
-  Apply(*node, *pForm);
-
-  const auto controls = Attempt([&] { return ObjectIn(pForm->Get(u"Controls")); });
-  if (!controls) return;
-  const std::int32_t count = Attempt([&] { return runtime::ToLong(controls->Get(u"Count")); });
-  for (std::int32_t j = 0; j < count; ++j)
-    if (const auto control = ControlAt(*controls, j)) LocalizeControl(*node, *control);
+  if (pForm) runtime::IgnoreErrors([&] { Localize(*pForm); });
 }
 
 void SetGUIProperty(Object& pObject, std::u16string_view pID, std::u16string_view pValue) {

@@ -43,7 +43,8 @@ runtime::Ref<CLocalGUI> LocalizedGUI();
 // of the form's collection. Called by name are the form's `Name` and `Controls`, the collection's `Count` and its
 // default member or else `Item` (from 0), and of a control `Name` and, where it has one, `Index`.
 //
-// Raises nothing: what fails is left out, and the rest is done all the same.
+// Raises nothing, and leaves the thread's last error alone: what fails is left out, a control without a name too, and
+// the rest is done all the same.
 void LocalizeForm(runtime::Object* pForm);
 
 // Assigns a text to the property named: "Caption", or "List(3)" with the index 3 as argument. What stands before the

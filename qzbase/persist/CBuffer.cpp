@@ -258,7 +258,7 @@ Variant CBuffer::NextObject(QZVarType VarType) {
 
 std::int32_t CBuffer::NextCount(std::int32_t pLeastBytes) {
   const std::int32_t count = NextLong();
-  CheckCount(std::int64_t{count} * pLeastBytes, BytesLeft());
+  if (count > BytesLeft()) CheckCount(std::int64_t{count} * pLeastBytes, BytesLeft());
   return count;
 }
 

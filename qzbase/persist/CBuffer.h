@@ -88,8 +88,8 @@ class CBuffer final : public runtime::Object {
   // the byte at the cursor is taken as one: right only for untyped buffers, since markers are numbered otherwise.
   runtime::Variant NextObject(QZVarType VarType = EVTInvalid);
 
-  // `NextLong` for the number of elements of a container, checked against the bytes left, of which each element takes
-  // `pLeastBytes` or more. Elements that are far bigger than one byte once they are made must say so.
+  // `NextLong` for the number of elements of a container. Only a number above the bytes left is doubted: then each
+  // element counts `pLeastBytes`, which elements that are far bigger than one byte once they are made must say.
   std::int32_t NextCount(std::int32_t pLeastBytes = 1);
 
   void ResetPos() { ReadHeader(); }                     // to the first record

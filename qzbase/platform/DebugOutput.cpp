@@ -5,15 +5,16 @@
 
 #include "qzbase/os/OpenFile.h"
 #include "qzbase/os/ThreadSlot.h"
-#include "qzbase/platform/IgnoreErrors.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"
 #include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/IgnoreErrors.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase::ModBase {
 namespace {
 
+using runtime::IgnoreErrors;
 using runtime::Object;
 using runtime::Ref;
 using runtime::RuntimeError;

@@ -4,11 +4,12 @@
 
 #include "qzbase/os/MessageBox.h"
 #include "qzbase/os/ThreadSlot.h"
-#include "qzbase/platform/IgnoreErrors.h"
+#include "qzbase/runtime/IgnoreErrors.h"
 
 namespace qzbase::ModBase {
 namespace {
 
+using runtime::IgnoreErrors;
 using runtime::Object;
 using runtime::Ref;
 

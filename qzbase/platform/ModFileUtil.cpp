@@ -43,6 +43,12 @@ bool IsTaken(std::u16string_view pName, std::u16string_view pPattern) {
   return pPattern.empty() || runtime::FitsWildcards(pName.substr(pName.size() - length), pPattern);
 }
 
+// Elsewhere than on Windows a name may have a "\" of its own, and the path through it would lead to another folder,
+// even back to the same one.
+bool CanBeEntered(std::u16string_view pName) {
+  return pName != u"." && pName != u".." && pName.find(u'\\') == std::u16string_view::npos;
+}
+
 }  // namespace
 
 void DeleteFile(std::u16string_view pName) {
@@ -77,7 +83,8 @@ std::int32_t DelDir(std::u16string_view pPath) {
 
 void GetDirContents(std::u16string_view pRootDir, std::u16string_view pPattern, bool pRecursive, CStrVector& pNames,
                     CDblVector& pDates) {
-  std::u16string folder(pRootDir);
+  // As far as the system would read it: what stands behind a zero would be lost, the pattern too.
+  std::u16string folder(pRootDir.substr(0, pRootDir.find(u'\0')));
   if (!folder.ends_with(u'\\')) folder += u'\\';
   for (const FileEntry& entry : os::FindEntries(folder + u"*.*")) {
     const std::u16string name = folder + entry.name;
@@ -85,7 +92,7 @@ void GetDirContents(std::u16string_view pRootDir, std::u16string_view pPattern, 
       if (!IsTaken(entry.name, pPattern)) continue;
       pNames.AddValue(name);
       pDates.AddValue(entry.modified);
-    } else if (pRecursive && !entry.isLink && entry.name != u"." && entry.name != u"..") {
+    } else if (pRecursive && !entry.isLink && CanBeEntered(entry.name)) {
       GetDirContents(name, pPattern, true, pNames, pDates);
     }
   }

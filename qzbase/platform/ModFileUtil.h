@@ -59,7 +59,7 @@ std::int32_t DelDir(std::u16string_view pPath);   // 75, 76, 57 or 61; 0 too whe
 
 // Appends the files of a folder, each with the folder's name in front, and the dates of their last changes, in the
 // order in which the system finds them; with `pRecursive` the folders' own where they are met. Links to folders are not
-// followed. A folder that cannot be read has no files.
+// followed, nor are folders with a "\" in their own names. A folder that cannot be read has no files.
 //
 // The pattern (runtime/WildcardPattern.h; empty: every file) is held against as many characters of a name's end as the
 // pattern has: "*.DAT" takes what ends so, and "RUN?.DAT" takes "overrun1.dat" too. Raises error 93 for a pattern that

@@ -190,7 +190,7 @@ struct Host : runtime::Object {
       log += u';';
       return {};
     }
-    if (pName == u"Name") return name;
+    if (pName == u"Name" && !name.IsEmpty()) return name;
     if (pName == u"Index" && !index.IsEmpty()) return index;
     if (pName == u"Controls" && controls) return controls;
     if (pName == u"Count") return static_cast<std::int32_t>(items.size());
@@ -220,7 +220,9 @@ TEST(Forms, SetGUIPropertyTakesAnIndex) {
 TEST(Forms, LocalizeFormGoesOnBehindEveryFailure) {
   const NodeRef list = Node(u"list");
   const NodeRef option = Node(u"Option_2");
-  const NodeRef main = Node(u"main", {Node(u"Frame", {list, option})});
+  const NodeRef nameless = Node(u"");
+  const NodeRef main = Node(u"main", {nameless, Node(u"Frame", {list, option})});
+  nameless->AddProperty(u"Caption", u"not for controls without a name");
   main->AddProperty(u"Caption", u"Haupt");
   list->AddProperty(u"Missing", u"x");
   list->AddProperty(u"List(0)", u"Rot");
@@ -231,12 +233,16 @@ TEST(Forms, LocalizeFormGoesOnBehindEveryFailure) {
     const auto form = New<Host>(u"Main");
     const auto first = New<Host>(u"List");
     const auto second = New<Host>(u"Option");
+    const auto third = New<Host>(Variant());
     second->index = 2;
     form->controls = New<Host>(Variant());
     form->controls->itemName = itemName;
-    form->controls->items = {nullptr, u"no control", first, New<Host>(u"Option"), second};
+    form->controls->items = {nullptr, u"no control", first, New<Host>(u"Option"), third, second};
+    runtime::SetLastError({1, u"source", u""});
     GCResource::LocalizeForm(form.get());
     EXPECT_EQ(ToUtf8(form->log + u"/" + first->log + u"/" + second->log), "Caption Haupt;/List 0 Rot;/Caption Zwei;");
+    EXPECT_EQ(third->log, u"");
+    EXPECT_EQ(runtime::LastError().source, u"source");
   }
   GCResource::LocalizeForm(nullptr);
 }

@@ -158,6 +158,9 @@ TEST_F(FileUtil, ListsATree) {
     EXPECT_EQ(found, expected) << ToUtf8(pattern);
   }
   EXPECT_EQ(dates.Size(), names.Size());
+  CStrVector all;
+  GCFileUtil::GetDirContents(folder_.Path().u16string() + u'\0', u"", true, all, dates);
+  EXPECT_EQ(all.Size(), 4) << "read as far as the zero";
   const auto list = [&] { GCFileUtil::GetDirContents(folder_.Name(u""), u"[", false, names, dates); };
   EXPECT_EQ(ErrorOf(list), NumberOf(RuntimeError::InvalidPattern));
 }

@@ -1,5 +1,6 @@
 #include <chrono>
 #include <string>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -125,6 +126,21 @@ TEST_F(Waits, EndInTime) {
   EXPECT_EQ(ErrorOf([] { GCBase::SleepSecs(2147483.648); }), kOverflow);
   EXPECT_EQ(rounds, 0);
   EXPECT_FALSE(GCBase::SystemWaiting());
+}
+
+TEST_F(Waits, SleepDoesNotLookAtTheStopFlag) {
+  GCBase::LetStopFlag(true);
+  const std::int32_t start = GCBase::TimeInCentiSecs();
+  GCBase::SleepSecs(0.04);
+  EXPECT_GE(GCBase::TimeInCentiSecs(), start + 3);  // both ends are rounded
+  EXPECT_EQ(rounds, 0);
+}
+
+TEST(SystemServices, TheDebugModeIsTheThreadsOwn) {
+  GCBase::LetDebugMode(-7);
+  std::thread([] { EXPECT_EQ(GCBase::DebugMode(), 0); }).join();
+  EXPECT_EQ(GCBase::DebugMode(), -7);
+  GCBase::LetDebugMode(0);
 }
 
 TEST_F(Waits, EndWhenAnEventSetsTheStopFlagOrRaises) {

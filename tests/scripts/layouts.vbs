@@ -15,7 +15,16 @@ graph.AxisIsLog(2) = True
 graph.NrCurveStyles = 3
 Check "axis", graph.AxisCaption(2) & " " & graph.AxisIsLog(2) & " " & graph.AxisIsLog(1)
 Check "colours", graph.DefaultColor(1) & " " & graph.DefaultColor(12)
-Check "style", graph.CurveStyle(3).Color & " " & graph.DefaultCurveStyle(3).SymbolSize
+
+' Script hosts cannot look into a record, but hand it on.
+Dim style
+Set other = graph.GetCopy
+style = graph.DefaultCurveStyle(2)
+other.CurveStyle(1) = style
+Check "another style", other.IsEqual(graph)
+style = graph.CurveStyle(1)
+other.CurveStyle(1) = style
+Check "the same style", other.IsEqual(graph)
 
 Set buffer = CreateObject("QZBase.CBuffer")
 graph.SaveToBuffer buffer

@@ -24,7 +24,7 @@ RegistryResult FindRegistryFile(std::int32_t pRoot, RegistryFile& pFile);
 // Makes the folder, and those above it.
 RegistryResult MakeRegistryFolder(const RegistryFile& pFile);
 
-// NotFound, AccessDenied and so on for what a call of the system has left in `errno`.
+// PathNotFound, AccessDenied and so on for what a call of the system has left in `errno`.
 RegistryResult ResultOfErrno(int pErrno) noexcept;
 
 }  // namespace qzbase::os

@@ -1,6 +1,7 @@
 // The type library inside the server, read back through the system, says what the tables say.
 #include <algorithm>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -25,15 +26,10 @@ ComRef<ITypeLib> ServerTypeLibrary() {
   return library;
 }
 
-// What type libraries cannot hold: the default of a double. Its parameter is merely optional there.
-std::string WithoutDefaultsOfDoubles(std::string_view pLine) {
-  constexpr std::string_view kStart = ": Double = ";
-  std::string result;
-  for (std::size_t at = pLine.find(kStart); at != std::string::npos; at = pLine.find(kStart)) {
-    result += std::string(pLine.substr(0, at)) + ": Double = ?";
-    pLine.remove_prefix(pLine.find_first_of(",)", at + kStart.size()));
-  }
-  return result + std::string(pLine);
+// What type libraries cannot hold: a default that is a double. Its parameter is merely optional there.
+std::string WithoutDefaultsOfDoubles(const std::string& pLine) {
+  static const std::regex kDefault("(: Double|: Variant) = [^,)\"]*");
+  return std::regex_replace(pLine, kDefault, "$1 = ?");
 }
 
 std::vector<std::string> Lines(std::istream&& pText) {

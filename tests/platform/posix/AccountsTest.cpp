@@ -72,6 +72,12 @@ TEST(Accounts, DebugLinesInAnOpenFile) {
   GCBase::ShowDebugLine(u"");
   GCBase::SetDbgFileHdl(999999);  // not open
   GCBase::ShowDebugLine(u"lost");
+  int pipe[2];
+  ASSERT_EQ(::pipe(pipe), 0);
+  close(pipe[0]);
+  GCBase::SetDbgFileHdl(pipe[1]);
+  GCBase::ShowDebugLine(u"to nobody");  // which ends no program
+  close(pipe[1]);
   GCBase::SetDbgFileHdl(0);
   GCBase::ShowDebugLine(u"nowhere");
   std::rewind(file.get());

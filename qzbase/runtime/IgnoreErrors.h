@@ -6,19 +6,19 @@
 
 #include "qzbase/runtime/AutomationError.h"
 
-namespace qzbase {
+namespace qzbase::runtime {
 
 // What the call raises ends here. The thread's last error stays the one that it was, whatever the call does: it may be
 // the very one that is being shown.
 template <class Call>
 void IgnoreErrors(Call&& pCall) {
-  runtime::ErrorRecord last = runtime::LastError();
+  ErrorRecord last = LastError();
   try {
     std::forward<Call>(pCall)();
   } catch (const std::exception&) {
     // Nobody's concern.
   }
-  runtime::SetLastError(std::move(last));
+  SetLastError(std::move(last));
 }
 
-}  // namespace qzbase
+}  // namespace qzbase::runtime
