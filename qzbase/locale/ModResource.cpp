@@ -62,7 +62,7 @@ std::u16string TextOf(Object& pObject, std::u16string_view pName) {
 
 Ref<Object> ControlAt(Object& pControls, std::int32_t pIndex) {
   for (const std::u16string_view member : {u"", u"Item"})
-    if (const auto control = Attempt([&] { return ObjectIn(pControls.Get(member, pIndex)); })) return control;
+    if (auto control = Attempt([&] { return ObjectIn(pControls.Get(member, pIndex)); })) return control;
   return nullptr;
 }
 
@@ -70,11 +70,8 @@ Ref<Object> ControlAt(Object& pControls, std::int32_t pIndex) {
 void Apply(const CLocalGUI& pNode, Object& pObject) {
   const std::int32_t count = pNode.NrProperties();
   for (std::int32_t k = 1; k <= count; ++k)
-    Attempt([&] {
-      const std::u16string id = pNode.PropertyID(k);
-      const std::u16string value = pNode.PropertyValue(k);
-      SetGUIProperty(pObject, id, value);
-    });
+    Attempt(
+        [&] { SetGUIProperty(pObject, std::u16string(pNode.PropertyID(k)), std::u16string(pNode.PropertyValue(k))); });
 }
 
 void LocalizeControl(const CLocalGUI& pFormNode, Object& pControl) {
@@ -108,8 +105,7 @@ void AddLocalizedString(std::u16string_view pKey, std::u16string_view pText) {
 
 void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector& pErrMsg) {
   for (std::int32_t i = 1; i <= pMsg.Size(); ++i) {
-    const std::u16string item = pMsg.Value(i);
-    std::u16string_view text = item;
+    std::u16string_view text = pMsg.Value(i);
     const std::u16string_view key = TakeUpTo(u'\0', text);
     AddLocalizedString(key, text);
   }

@@ -61,7 +61,7 @@ class BackwardWriter {
   std::u16string_view Text() const noexcept { return {begin_, static_cast<std::size_t>(room_.end() - begin_)}; }
 
  private:
-  std::array<char16_t, 4 * kMaxPlaces> room_;
+  std::array<char16_t, std::size_t{4} * kMaxPlaces> room_;
   char16_t* begin_ = room_.end();
 };
 
