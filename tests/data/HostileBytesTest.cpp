@@ -19,6 +19,9 @@
 #include "qzbase/data/CVector.h"
 #include "qzbase/desc/CTypedInfo.h"
 #include "qzbase/desc/CVarDescs.h"
+#include "qzbase/layout/CLayoutGraph.h"
+#include "qzbase/layout/CLayoutGraph3D.h"
+#include "qzbase/layout/CLayoutTable.h"
 #include "qzbase/locale/CLocalGUI.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/AllocationMeter.h"
@@ -78,7 +81,7 @@ constexpr const char* kBufferDump =
     "/Test#1;#2,<0>,<1>;H\u00F6he \u4E2D;-9.9999999999E+300;-2147483636;True;01.01.2000 "
     "12:00:00;254;16777215;\\Test;";
 
-// Every golden file, what loads it and what it holds.
+// Every golden file, what loads it and what it holds; nothing where the tests of its room compare the bytes.
 constexpr struct {
   const char* name;
   Loader load;
@@ -128,6 +131,9 @@ constexpr struct {
      "3;1.5;\\TypedInfo;"},
     {"CLocalGUI", &Load<CLocalGUI>,
      "Form1;Form;2;Caption;\u00DCbersicht;Tag;;2;Frame;;0;1;Option1_2;;0;0;List1;;1;List(3);Blau;0;"},
+    {"CLayoutGraph", &Load<CLayoutGraph>, nullptr},
+    {"CLayoutGraph3D", &Load<CLayoutGraph3D>, nullptr},
+    {"CLayoutTable", &Load<CLayoutTable>, nullptr},
 };
 
 TEST(HostileBytes, FailOnlyAsDocumented) {
@@ -139,7 +145,9 @@ TEST(HostileBytes, FailOnlyAsDocumented) {
     Bytes bytes(file.begin(), file.end());
     CBuffer whole;
     whole.LetByteArray(Storage(bytes));
-    EXPECT_EQ(ToUtf8(whole.GetString()), dump);
+    if (dump != nullptr) {
+      EXPECT_EQ(ToUtf8(whole.GetString()), dump);
+    }
     for (std::size_t bit = 0; bit < 8 * bytes.size(); ++bit) {
       const auto flip = static_cast<std::uint8_t>(1 << bit % 8);
       bytes[bit / 8] ^= flip;
