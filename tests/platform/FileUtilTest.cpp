@@ -150,7 +150,7 @@ TEST_F(FileUtil, ListsATree) {
     GCFileUtil::GetDirContents(folder_.Path().u16string(), pattern, recursive, names, dates);
     Names found;
     for (std::int32_t i = before + 1; i <= names.Size(); ++i) {
-      const std::u16string name(names.Value(i));
+      const std::u16string& name = names.Value(i);
       found.insert(ToUtf8(name.substr(folder_.Name(u"").size())));
       if (name != folder_.Name(u"run1.dat")) continue;
       EXPECT_NEAR(dates.Value(i), 44013.5, 1.5 / 86400);

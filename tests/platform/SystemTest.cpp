@@ -66,7 +66,7 @@ TEST(SystemServices, TextsOfSystems) {
   for (const auto& [system, expected] : rows) {
     std::u16string id = u"spoiled", version = u"spoiled", service = u"spoiled";
     ModBase::FullOSInfo(system, id, version, service);
-    EXPECT_EQ(ToUtf8(id + u'|' + version + u'|' + service), expected);
+    EXPECT_EQ(ToUtf8(id) + "|" + ToUtf8(version) + "|" + ToUtf8(service), expected);
   }
 }
 
