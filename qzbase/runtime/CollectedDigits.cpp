@@ -42,7 +42,8 @@ bool CollectedDigits::ToExact(double& pValue) const noexcept {
   const auto magnitude = static_cast<std::uint64_t>(std::abs(power));
   if (FLT_EVAL_METHOD != 0 || count_ > kMaxDigits || magnitude >= kExactPowers.size()) return false;
   const auto number = static_cast<double>(whole_);
-  pValue = power < 0 ? number / kExactPowers[magnitude] : number * kExactPowers[magnitude];
+  const double powerOfTen = kExactPowers[static_cast<std::size_t>(magnitude)];
+  pValue = power < 0 ? number / powerOfTen : number * powerOfTen;
   return true;
 }
 
