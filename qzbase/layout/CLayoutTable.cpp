@@ -6,16 +6,6 @@
 #include "qzbase/runtime/NumberText.h"
 
 namespace qzbase {
-namespace {
-
-// The ID that a number stands for.
-std::u16string InfoID(std::int32_t pID) {
-  std::u16string id;
-  runtime::AppendNumberText(id, pID);
-  return id;
-}
-
-}  // namespace
 
 struct CLayoutTable::Lists {
   static constexpr auto kPlain = Fields(&CLayoutTable::border_, &CLayoutTable::captionColour_);
@@ -37,11 +27,11 @@ runtime::Variant CLayoutTable::AddGenericInfo(std::u16string_view pID, QZVarType
 }
 
 void CLayoutTable::LetGenericInfoValue(std::int32_t pID, runtime::Variant pValue) {
-  genericInfos_->SetValue(InfoID(pID), std::move(pValue));
+  genericInfos_->SetValue(runtime::NumberText(pID), std::move(pValue));
 }
 
 runtime::Variant CLayoutTable::GetGenericInfoValue(std::int32_t pID, const runtime::Variant& pDefault) const {
-  const std::int32_t position = genericInfos_->Index(InfoID(pID));
+  const std::int32_t position = genericInfos_->Index(runtime::NumberText(pID));
   return position > 0 ? genericInfos_->Value(position) : pDefault;
 }
 

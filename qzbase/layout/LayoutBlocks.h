@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <tuple>
+#include <utility>
 
 #include "qzbase/core/QZVarType.h"
 #include "qzbase/layout/TCurveStyle.h"

@@ -37,11 +37,13 @@ void CheckRecord(Layout& pLayout, const std::string& pName) {
   loaded.LoadFromBuffer(&buffer);
   EXPECT_TRUE(loaded.IsEqual(pLayout));
   EXPECT_EQ(Saved(loaded), Saved(pLayout));
-  EXPECT_TRUE(pLayout.GetCopy()->IsEqual(pLayout));
+  const auto copy = pLayout.GetCopy();
+  EXPECT_TRUE(copy->IsEqual(pLayout));
+  EXPECT_EQ(Saved(*copy), Saved(pLayout));
   EXPECT_FALSE(Layout().IsEqual(pLayout));
 }
 
-// Every field differs from its default and from its neighbours.
+// Every field differs from its default, those of an axis on one axis at least.
 template <class Layout>
 void FillFrame(Layout& pLayout) {
   pLayout.LetTitle(u"T\u00E4");
@@ -169,6 +171,7 @@ TEST(LayoutGraph3D, RecordLeavesOutTheBackColourAndComparisonTheBorder) {
   EXPECT_TRUE(other->IsEqual(layout));
   other->LetBackColor(0);
   EXPECT_FALSE(other->IsEqual(layout));
+  EXPECT_EQ(other->GetCopy()->BackColor(), 0);
   CBuffer buffer;
   layout.SaveToBuffer(&buffer);
   other->LoadFromBuffer(&buffer);
