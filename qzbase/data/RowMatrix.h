@@ -55,7 +55,8 @@ class RowMatrix : public runtime::Object {
   // A new row of `NrCols` elements; the last one for a position below 1 or past the end.
   void InsertRow(std::int32_t pAtPos);
 
-  // An index behind the rows drops the last one. Below 1 error 9, unless there is no row to move.
+  // An index behind the rows drops the last one. Below 1 error 9, unless there is no row to move. A matrix without rows
+  // counts below 0: a row can be added only after `NrRows` was set anew.
   void DeleteRow(std::int32_t pRowIdx) { rows_.Delete(pRowIdx); }
 
   // Appends a copy, which keeps its length.
