@@ -8,7 +8,7 @@
 namespace qzbase::os {
 namespace {
 
-EventHook& ThreadHook() {
+EventHook& ThreadEventHook() {
   static PerThread<EventHook> hook;
   return *hook;
 }
@@ -17,12 +17,12 @@ EventHook& ThreadHook() {
 
 void ProcessEvents() {
   // A copy: the hook may set another one.
-  if (const EventHook hook = ThreadHook()) return hook();
+  if (const EventHook hook = ThreadEventHook()) return hook();
   ProcessQueuedEvents();
 }
 
 void SetEventHook(EventHook pHook) {
-  ThreadHook() = std::move(pHook);
+  ThreadEventHook() = std::move(pHook);
 }
 
 }  // namespace qzbase::os

@@ -5,12 +5,12 @@
 
 namespace qzbase::os {
 
-// Handles what is waiting, and returns. On Windows these are the messages of the thread's windows and timers; elsewhere
-// only the host knows where its events are, and sets a hook.
+// Handles what is waiting, and returns, also when new events come all the time (EventQueue.h). On Windows these are the
+// messages of the thread's windows and timers; elsewhere only the host knows where its events are, and sets a hook.
 void ProcessEvents();
 
-// Takes the place of the system's way on the calling thread; empty: that way. What the hook raises reaches the caller
-// of `ProcessEvents`.
+// Takes the place of the system's way on the calling thread; empty: that way. One call is one
+// round: the hook bounds itself. What it raises reaches the caller of `ProcessEvents`.
 using EventHook = std::function<void()>;
 void SetEventHook(EventHook pHook);
 

@@ -8,11 +8,9 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qzbase::os {
-
-// The order of day, month and year in a short date.
-enum class DateOrder : std::uint8_t { MonthDayYear = 0, DayMonthYear = 1, YearMonthDay = 2 };
 
 struct LocaleRules {
   std::u16string name;  // BCP 47, such as "de-CH"; also chooses the collation. Empty: the invariant rules below.
@@ -39,14 +37,14 @@ struct LocaleRules {
   std::int32_t positiveCurrency = 0;  // 0 "$1", 1 "1$", 2 "$ 1", 3 "1 $"
   std::int32_t negativeCurrency = 0;  // 0 "($1)", 1 "-$1", ... 8 "-1 $", ... 15 "(1 $)": the platform's codes
 
-  // Dates and times. Patterns use d, M, y, h, H, m, s, t and text in single quotes.
+  // Dates and times. The pictures use d, M, y, h, H, m, s, t and text in single quotes (LocalePicture.h); the order of
+  // day, month and year is that of the short date. No separator and no delimiter holds a letter or a digit.
   std::u16string dateSeparator = u"/";
   std::u16string timeSeparator = u":";
   std::u16string shortDate = u"MM/dd/yyyy";
   std::u16string longDate = u"dddd, dd MMMM yyyy";
   std::u16string longTime = u"HH:mm:ss";
   std::u16string shortTime = u"HH:mm";
-  DateOrder dateOrder = DateOrder::MonthDayYear;
   std::u16string am = u"AM";
   std::u16string pm = u"PM";
   std::int32_t firstDayOfWeek = 6;   // 0 Monday ... 6 Sunday
@@ -58,6 +56,9 @@ struct LocaleRules {
                                            u"July",    u"August",   u"September", u"October", u"November", u"December"};
   std::array<std::u16string, 12> shortMonths = {u"Jan", u"Feb", u"Mar", u"Apr", u"May", u"Jun",
                                                 u"Jul", u"Aug", u"Sep", u"Oct", u"Nov", u"Dec"};
+  // The same beside a day, in languages that say it differently: "listopad", but "28. listopadu". Empty: the same.
+  std::array<std::u16string, 12> monthsWithDay;
+  std::array<std::u16string, 12> shortMonthsWithDay;
 
   bool operator==(const LocaleRules&) const = default;
 };
@@ -68,5 +69,8 @@ LocaleRules UserLocaleRules();
 // The rules of a named locale ("de-DE") as the system ships them; the invariant rules when the system has no such
 // locale.
 LocaleRules NamedLocaleRules(std::string_view pName);
+
+// The names of all locales that the system has.
+std::vector<std::string> LocaleNames();
 
 }  // namespace qzbase::os

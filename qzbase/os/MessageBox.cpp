@@ -11,14 +11,14 @@
 namespace qzbase::os {
 namespace {
 
-MessageHook& ThreadHook() {
+MessageHook& ThreadMessageHook() {
   static PerThread<MessageHook> hook;
   return *hook;
 }
 
 void Show(MessageIcon pIcon, std::u16string_view pText, std::u16string_view pCaption) {
   // A copy: the hook may set another one.
-  if (const MessageHook hook = ThreadHook()) return hook(pText, pCaption);
+  if (const MessageHook hook = ThreadMessageHook()) return hook(pText, pCaption);
   DisplayMessage(pIcon, pText, pCaption);
 }
 
@@ -33,7 +33,7 @@ void ShowCriticalMessage(std::u16string_view pText, std::u16string_view pCaption
 }
 
 void SetMessageHook(MessageHook pHook) {
-  ThreadHook() = std::move(pHook);
+  ThreadMessageHook() = std::move(pHook);
 }
 
 void PrintMessage(std::u16string_view pText, std::u16string_view pCaption) {

@@ -41,7 +41,8 @@ struct RegistryValue {
 // Makes a section, and those above it, unless it is there.
 RegistryResult MakeRegistrySection(std::int32_t pRoot, const std::string& pSection);
 
-// Makes the section where it is missing. A text is stored as exactly the bytes given, with or without a final zero.
+// Makes the section where it is missing; of no kind, the value is not written. A text is given without a final zero and
+// stored with one, unless it is empty or its own last character is a zero.
 RegistryResult WriteRegistryValue(std::int32_t pRoot, const std::string& pSection, const std::string& pKey,
                                   const RegistryValue& pValue);
 

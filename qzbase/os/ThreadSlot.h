@@ -10,9 +10,13 @@
 namespace qzbase::os {
 
 // One untyped slot. `pDestroy` is called with the thread's pointer at the thread's end and, for the thread that
-// destroys the slot, at that moment.
+// destroys the slot, at that moment. The pointer is taken out of the slot before: whoever asks for it from there finds
+// none, and what he sets is destroyed next. That is done four times at most; a value that always leaves another one
+// behind would be destroyed for ever.
 class ThreadSlot {
  public:
+  static constexpr int kMostRounds = 4;
+
   explicit ThreadSlot(void (*pDestroy)(void*));
   ~ThreadSlot();
   ThreadSlot(const ThreadSlot&) = delete;

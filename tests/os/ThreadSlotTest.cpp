@@ -57,6 +57,30 @@ TEST_F(ThreadSlot, TheSlotTakesTheValueOfItsThreadAlong) {
   EXPECT_EQ(destroyed, 1);
 }
 
+// Asks for its own slot while it is destroyed, as the state of a host may that calls the library from there.
+struct Asking : Counted {
+  ~Asking() {
+    if (value != 0) found += (*slot)->value + 10;
+  }
+  static inline os::PerThread<Asking>* slot = nullptr;
+  static inline std::atomic<int> found{0};
+};
+
+TEST_F(ThreadSlot, AValueIsOutOfItsSlotBeforeItIsDestroyed) {
+  const auto slot = std::make_unique<os::PerThread<Asking>>();
+  Asking::slot = slot.get();
+  std::thread([&] { (*slot)->value = 1; }).join();
+  EXPECT_EQ(Asking::found, 10) << "at the thread's end";
+  {
+    os::PerThread<Asking> own;
+    Asking::slot = &own;
+    own->value = 1;
+  }
+  EXPECT_EQ(Asking::found, 20) << "at the slot's end";
+  EXPECT_EQ(made, 4);
+  EXPECT_EQ(destroyed, 4);
+}
+
 TEST_F(ThreadSlot, SlotsComeAndGo) {
   // More than a process may have at once.
   for (int i = 0; i < 5000; ++i) {

@@ -7,6 +7,7 @@
 #include "qzbase/os/Collation.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -119,6 +120,8 @@ class LocaleOrder {
     uloc_forLanguageTag(ToUtf8(pName).c_str(), locale, ULOC_FULLNAME_CAPACITY, nullptr, &status);
     uloc_getLanguage(locale, language, ULOC_LANG_CAPACITY, &status);
     language_ = language;
+    // This variant has no order of its own but that of the codes, capitals first; here case is the same everywhere.
+    if (char* const variant = std::strstr(locale, "_POSIX")) *variant = '\0';
     status = U_ZERO_ERROR;
     // An empty name must not mean the default locale of the process.
     local_.reset(ucol_open(locale[0] == '\0' ? "root" : locale, &status));

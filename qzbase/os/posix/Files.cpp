@@ -10,70 +10,52 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "qzbase/os/Utf8.h"
 #include "qzbase/os/Wildcards.h"
+#include "qzbase/os/posix/FileName.h"
 
 namespace qzbase::os {
 namespace {
-
-constexpr std::string_view kSeparator = "/";
-constexpr double kSecondsADay = 86400;
-constexpr double kEpoch = 25569;  // 1970-01-01 as the days of a date
 
 struct CloseFolder {
   void operator()(DIR* pFolder) const noexcept { closedir(pFolder); }
 };
 using FolderHandle = std::unique_ptr<DIR, CloseFolder>;
 
-bool HasDrive(std::u16string_view pName) noexcept {
-  const auto letter = pName.empty() ? u' ' : static_cast<char16_t>(pName[0] | 0x20);
-  return pName.size() > 1 && pName[1] == u':' && letter >= u'a' && letter <= u'z';
-}
-
-// The name as the system wants it, as far as the system would read it.
-std::string NativeName(std::u16string_view pName) {
-  pName = pName.substr(0, pName.find(u'\0'));
-  std::string name = ToUtf8(HasDrive(pName) ? pName.substr(2) : pName);
-  std::replace(name.begin(), name.end(), '\\', '/');
-  return name;
-}
-
 // A name in two: the folder, which may be missing, and what is sought in it.
 struct SplitName {
   explicit SplitName(std::u16string_view pName) : title(NativeName(pName)) {
-    const std::size_t end = title.rfind(kSeparator) + 1;
+    const std::size_t end = title.rfind('/') + 1;
     folder = end == 0 ? "./" : title.substr(0, end);
     title.erase(0, end);
   }
   bool HasWildcards() const { return title.find_first_of("*?") != std::string::npos; }
 
-  std::string title;
+  std::string title;  // empty for the root
   std::string folder;
 };
 
 bool FitsFileWildcards(std::u16string_view pName, std::u16string_view pPattern) {
   const auto isStar = [](char16_t pPiece) { return pPiece == u'*'; };
   const auto fits = [](char16_t pPiece, char16_t pUnit) { return pPiece == u'?' || pPiece == pUnit; };
-  if (FitsPieces(pName, pPattern, isStar, fits)) return true;
+  if (FitsWildcards(pName, pPattern, isStar, fits)) return true;
   return pPattern.ends_with(u".*") && pName.find(u'.') == std::u16string_view::npos &&
-         FitsPieces(pName, pPattern.substr(0, pPattern.size() - 2), isStar, fits);
+         FitsWildcards(pName, pPattern.substr(0, pPattern.size() - 2), isStar, fits);
 }
 
-double LocalDate(std::time_t pTime) {
+ClockTime LocalTimeOf(std::time_t pTime) {
   std::tm local{};
-  localtime_r(&pTime, &local);
-  return static_cast<double>(timegm(&local)) / kSecondsADay + kEpoch;
+  if (localtime_r(&pTime, &local) == nullptr) return {};
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 
-// What is told of an entry besides its name; false where it is not there.
+// What is told of an entry besides its name; false where it is not there. A link that leads nowhere is one itself.
 bool ReadEntry(int pFolder, const std::string& pPath, FileEntry& pEntry) {
   struct stat status {};
-  if (fstatat(pFolder, pPath.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) return false;
-  pEntry.isLink = S_ISLNK(status.st_mode);
-  struct stat target {};
-  if (pEntry.isLink && fstatat(pFolder, pPath.c_str(), &target, 0) == 0) status = target;
+  if (fstatat(pFolder, pPath.c_str(), &status, 0) != 0 &&
+      fstatat(pFolder, pPath.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+    return false;
   pEntry.isFolder = S_ISDIR(status.st_mode);
-  pEntry.modified = LocalDate(status.st_mtime);
+  pEntry.modified = LocalTimeOf(status.st_mtime);
   return true;
 }
 
@@ -82,17 +64,19 @@ template <class Visit>
 void VisitEntries(std::u16string_view pName, Visit pVisit) {
   const SplitName name(pName);
   if (name.title.empty()) return;
-  const std::u16string title = FromUtf8(name.title);
-  FileEntry entry{title};
+  const std::u16string title = TextOfName(name.title);
+  const auto isSought = [&](const FileEntry& pEntry) { return pEntry.isFolder || !EndsWithSeparator(pName); };
+  FileEntry entry;
+  entry.name = title;
   if (!name.HasWildcards()) {
     const std::string path = name.folder + name.title;
-    if (ReadEntry(AT_FDCWD, path, entry)) pVisit(AT_FDCWD, path, entry);
+    if (ReadEntry(AT_FDCWD, path, entry) && isSought(entry)) pVisit(AT_FDCWD, path, entry);
     return;
   }
   const FolderHandle folder(opendir(name.folder.c_str()));
   while (const dirent* found = folder ? readdir(folder.get()) : nullptr) {
-    entry.name = FromUtf8(found->d_name);
-    if (FitsFileWildcards(entry.name, title) && ReadEntry(dirfd(folder.get()), found->d_name, entry))
+    entry.name = TextOfName(found->d_name);
+    if (FitsFileWildcards(entry.name, title) && ReadEntry(dirfd(folder.get()), found->d_name, entry) && isSought(entry))
       pVisit(dirfd(folder.get()), found->d_name, entry);
   }
 }
@@ -119,7 +103,15 @@ FileResult ResultOf(int pReturned) noexcept {
 std::vector<FileEntry> FindEntries(std::u16string_view pName) {
   std::vector<FileEntry> entries;
   VisitEntries(pName, [&](int, const std::string&, const FileEntry& pEntry) { entries.push_back(pEntry); });
+  std::stable_partition(entries.begin(), entries.end(),
+                        [](const FileEntry& pEntry) { return pEntry.name == u"." || pEntry.name == u".."; });
   return entries;
+}
+
+std::optional<FolderIdentity> IdentityOf(std::u16string_view pFolder) {
+  struct stat status {};
+  if (stat(NativeName(pFolder).c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) return std::nullopt;
+  return FolderIdentity{status.st_dev, status.st_ino};
 }
 
 void RemoveFiles(std::u16string_view pName) {
@@ -133,7 +125,11 @@ FileResult MakeFolder(std::u16string_view pFolder) {
 }
 
 FileResult RemoveFolder(std::u16string_view pFolder) {
-  return ResultOf(rmdir(NativeName(pFolder).c_str()));
+  const std::string name = NativeName(pFolder);
+  struct stat status {};
+  // To the system a link is something else that stands in the way of the folder.
+  if (lstat(name.c_str(), &status) == 0 && S_ISLNK(status.st_mode)) return FileResult::NoAccess;
+  return ResultOf(rmdir(name.c_str()));
 }
 
 void ChangeFolder(std::u16string_view pFolder) {

@@ -13,6 +13,7 @@
 
 #include <unicode/uloc.h>
 
+#include "qzbase/os/LocaleDelimiters.h"
 #include "qzbase/os/Utf8.h"
 #include "qzbase/os/posix/IcuHandle.h"
 
@@ -187,19 +188,6 @@ std::u16string ShortDatePattern(const char* pLocale) {
   }));
 }
 
-// What stands between the first two fields of a pattern.
-std::u16string SeparatorOf(std::u16string_view pPattern, std::u16string_view pLetters) {
-  const std::size_t start = std::min(pPattern.find_first_not_of(pLetters), pPattern.size());
-  const std::size_t end = std::min(pPattern.find_first_of(pLetters, start), pPattern.size());
-  return std::u16string(pPattern.substr(start, end - start));
-}
-
-DateOrder OrderOf(std::u16string_view pPattern) {
-  const std::size_t first = pPattern.find_first_of(u"dMy");
-  if (first == std::u16string_view::npos || pPattern[first] == u'M') return DateOrder::MonthDayYear;
-  return pPattern[first] == u'd' ? DateOrder::DayMonthYear : DateOrder::YearMonthDay;
-}
-
 // Fills `pNames` from a list of the library, beginning with entry `pFirst` and going round.
 template <std::size_t pCount>
 void FillNames(std::array<std::u16string, pCount>& pNames, const DateFormatHandle& pFormat, UDateFormatSymbolType pType,
@@ -221,6 +209,9 @@ void FillAllNames(LocaleRules& pRules, const char* pLocale) {
   FillNames(pRules.shortDays, format, UDAT_SHORT_WEEKDAYS, 1, 1);
   FillNames(pRules.months, format, UDAT_STANDALONE_MONTHS, 0, 0);
   FillNames(pRules.shortMonths, format, UDAT_STANDALONE_SHORT_MONTHS, 0, 0);
+  FillNames(pRules.monthsWithDay, format, UDAT_MONTHS, 0, 0);
+  FillNames(pRules.shortMonthsWithDay, format, UDAT_SHORT_MONTHS, 0, 0);
+  SettleMonthNames(pRules);
   std::array<std::u16string, 2> halves;
   FillNames(halves, format, UDAT_AM_PMS, 0, 0);
   pRules.am = halves[0];
@@ -241,9 +232,6 @@ void FillDates(LocaleRules& pRules, const char* pLocale) {
   pRules.longDate = StylePattern(UDAT_NONE, UDAT_FULL, pLocale);
   pRules.longTime = StylePattern(UDAT_MEDIUM, UDAT_NONE, pLocale);
   pRules.shortTime = StylePattern(UDAT_SHORT, UDAT_NONE, pLocale);
-  pRules.dateSeparator = SeparatorOf(pRules.shortDate, u"dMy");
-  pRules.timeSeparator = SeparatorOf(pRules.shortTime, u"hHm");
-  pRules.dateOrder = OrderOf(pRules.shortDate);
   FillAllNames(pRules, pLocale);
   FillWeek(pRules, pLocale);
 }
@@ -301,6 +289,7 @@ LocaleRules UserLocaleRules() {
     FillMoney(rules, locale.c_str());
   if (const std::string locale = WithCommonForms(UserLocale("LC_TIME")); !locale.empty())
     FillDates(rules, locale.c_str());
+  SettleDelimiters(rules);
   return rules;
 }
 
@@ -316,7 +305,15 @@ LocaleRules NamedLocaleRules(std::string_view pName) {
   FillNumbers(rules, locale.c_str());
   FillMoney(rules, locale.c_str());
   FillDates(rules, locale.c_str());
+  SettleDelimiters(rules);
   return rules;
+}
+
+std::vector<std::string> LocaleNames() {
+  std::vector<std::string> names(static_cast<std::size_t>(uloc_countAvailable()));
+  for (std::size_t i = 0; i < names.size(); ++i)
+    names[i] = ToUtf8(LanguageTag(uloc_getAvailable(static_cast<std::int32_t>(i))));
+  return names;
 }
 
 }  // namespace qzbase::os

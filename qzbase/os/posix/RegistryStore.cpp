@@ -196,6 +196,13 @@ std::string MakeSection(Database& pDatabase, const std::string& pSection) {
   return sections.back();
 }
 
+// A text gets the final zero that the registry gives it.
+std::vector<std::uint8_t> StoredBytes(const RegistryValue& pValue) {
+  std::vector<std::uint8_t> bytes = pValue.data;
+  if (pValue.kind == RegistryKind::Text && !bytes.empty() && bytes.back() != 0) bytes.push_back(0);
+  return bytes;
+}
+
 }  // namespace
 
 RegistryResult MakeRegistrySection(std::int32_t pRoot, const std::string& pSection) {
@@ -206,11 +213,13 @@ RegistryResult WriteRegistryValue(std::int32_t pRoot, const std::string& pSectio
                                   const RegistryValue& pValue) {
   return Change(pRoot, Missing::IsMade, [&](Database& pDatabase) {
     const std::string section = MakeSection(pDatabase, pSection);
+    if (pValue.kind == RegistryKind::None) return;
     const std::string key = Folded(pKey);
+    const std::vector<std::uint8_t> data = StoredBytes(pValue);
     const auto statement = pDatabase.Prepare("INSERT OR REPLACE INTO value VALUES (?, ?, ?, ?)", {section, key});
-    const void* bytes = pValue.data.empty() ? "" : static_cast<const void*>(pValue.data.data());
+    const void* bytes = data.empty() ? "" : static_cast<const void*>(data.data());
     pDatabase.Check(sqlite3_bind_int64(statement.get(), 3, static_cast<std::uint32_t>(pValue.kind)));
-    pDatabase.Check(sqlite3_bind_blob64(statement.get(), 4, bytes, pValue.data.size(), nullptr));
+    pDatabase.Check(sqlite3_bind_blob64(statement.get(), 4, bytes, data.size(), nullptr));
     pDatabase.Step(statement);
   });
 }

@@ -1,3 +1,5 @@
+// Implementation notes. When a thread ends, the system itself empties the slot before it calls, and calls again for
+// what was set from there.
 #include "qzbase/os/ThreadSlot.h"
 
 #include <system_error>
@@ -16,9 +18,13 @@ ThreadSlot::ThreadSlot(void (*pDestroy)(void*)) : destroy_(pDestroy) {
 }
 
 ThreadSlot::~ThreadSlot() {
-  void* value = Get();
+  for (int round = 0; round < kMostRounds; ++round) {
+    void* value = Get();
+    if (value == nullptr) break;
+    pthread_setspecific(static_cast<pthread_key_t>(key_), nullptr);
+    destroy_(value);
+  }
   pthread_key_delete(static_cast<pthread_key_t>(key_));
-  if (value != nullptr) destroy_(value);
 }
 
 void* ThreadSlot::Get() const noexcept {

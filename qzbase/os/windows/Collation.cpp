@@ -23,7 +23,7 @@ class LocaleName {
   std::array<wchar_t, LOCALE_NAME_MAX_LENGTH> name_{};
 };
 
-const wchar_t* Wide(std::u16string_view pText) noexcept {
+const wchar_t* AsWide(std::u16string_view pText) noexcept {
   return reinterpret_cast<const wchar_t*>(pText.data());
 }
 
@@ -42,10 +42,10 @@ int CompareText(std::u16string_view pLeft, std::u16string_view pRight, CaseRule 
   if (pRight.empty()) pRight = u"";
   const DWORD flags = pCase == CaseRule::IgnoreCase ? NORM_IGNORECASE : 0;
   const LocaleName locale(pLocaleName);
-  int result = CompareStringEx(locale.Get(), flags, Wide(pLeft), Length(pLeft), Wide(pRight), Length(pRight), nullptr,
-                               nullptr, 0);
+  int result = CompareStringEx(locale.Get(), flags, AsWide(pLeft), Length(pLeft), AsWide(pRight), Length(pRight),
+                               nullptr, nullptr, 0);
   if (result == 0)  // a locale that the system does not know
-    result = CompareStringEx(LOCALE_NAME_INVARIANT, flags, Wide(pLeft), Length(pLeft), Wide(pRight), Length(pRight),
+    result = CompareStringEx(LOCALE_NAME_INVARIANT, flags, AsWide(pLeft), Length(pLeft), AsWide(pRight), Length(pRight),
                              nullptr, nullptr, 0);
   return result - CSTR_EQUAL;
 }

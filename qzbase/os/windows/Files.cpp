@@ -8,46 +8,38 @@
 
 #include <windows.h>
 
+#include "qzbase/os/windows/WideText.h"
+
 namespace qzbase::os {
 namespace {
-
-constexpr std::uint64_t kTicksASecond = 10'000'000;
-constexpr double kSecondsADay = 86400;
-constexpr double kEpoch = -109205;  // 1601-01-01 as the days of a date
 
 struct CloseSearch {
   void operator()(HANDLE pSearch) const noexcept { FindClose(pSearch); }
 };
 using SearchHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseSearch>;
 
+struct CloseFile {
+  void operator()(HANDLE pFile) const noexcept { CloseHandle(pFile); }
+};
+using FileHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseFile>;
+
 struct FreeModule {
   void operator()(HMODULE pModule) const noexcept { FreeLibrary(pModule); }
 };
 using ModuleHandle = std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule>;
 
-std::wstring Wide(std::u16string_view pText) {
-  return {pText.begin(), pText.end()};
-}
-
-double LocalDate(const FILETIME& pTime) {
+ClockTime LocalTimeOf(const FILETIME& pTime) {
   SYSTEMTIME universal{};
   SYSTEMTIME local{};
-  FILETIME ticks{};
-  if (!FileTimeToSystemTime(&pTime, &universal) || !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local) ||
-      !SystemTimeToFileTime(&local, &ticks))
-    return 0;
-  const std::uint64_t count = (std::uint64_t{ticks.dwHighDateTime} << 32) | ticks.dwLowDateTime;
-  const auto seconds = static_cast<double>(count / kTicksASecond);
-  return seconds / kSecondsADay + kEpoch;
+  if (!FileTimeToSystemTime(&pTime, &universal) || !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+    return {};
+  return {local.wYear, local.wMonth, local.wDay, local.wHour, local.wMinute, local.wSecond};
 }
 
 FileEntry EntryOf(const WIN32_FIND_DATAW& pData) {
   const std::wstring_view name = pData.cFileName;
-  // Other marks of this kind are on files whose contents are elsewhere, in a cloud for one.
-  const bool isLink =
-      (pData.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 && IsReparseTagNameSurrogate(pData.dwReserved0);
-  return {std::u16string(name.begin(), name.end()), (pData.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0, isLink,
-          LocalDate(pData.ftLastWriteTime)};
+  return {std::u16string(name.begin(), name.end()), (pData.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+          LocalTimeOf(pData.ftLastWriteTime)};
 }
 
 FileResult ResultOf(BOOL pSucceeded) noexcept {
@@ -87,6 +79,18 @@ std::vector<FileEntry> FindEntries(std::u16string_view pName) {
     entries.push_back(EntryOf(data));
   } while (FindNextFileW(search.get(), &data));
   return entries;
+}
+
+std::optional<FolderIdentity> IdentityOf(std::u16string_view pFolder) {
+  const HANDLE opened =
+      CreateFileW(Wide(pFolder).c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                  nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (opened == INVALID_HANDLE_VALUE) return std::nullopt;
+  const FileHandle folder(opened);
+  BY_HANDLE_FILE_INFORMATION told{};
+  if (!GetFileInformationByHandle(folder.get(), &told) || (told.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+    return std::nullopt;
+  return FolderIdentity{told.dwVolumeSerialNumber, (std::uint64_t{told.nFileIndexHigh} << 32) | told.nFileIndexLow};
 }
 
 void RemoveFiles(std::u16string_view pName) {

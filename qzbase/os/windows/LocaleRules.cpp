@@ -1,10 +1,12 @@
 #include "qzbase/os/LocaleRules.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <iterator>
 
 #include <windows.h>
+
+#include "qzbase/os/LocaleDelimiters.h"
+#include "qzbase/os/Utf8.h"
 
 namespace qzbase::os {
 namespace {
@@ -70,13 +72,10 @@ void FillMoney(LocaleRules& pRules, const LocaleReader& pReader) {
 }
 
 void FillDates(LocaleRules& pRules, const LocaleReader& pReader) {
-  pRules.dateSeparator = pReader.Text(LOCALE_SDATE);
-  pRules.timeSeparator = pReader.Text(LOCALE_STIME);
   pRules.shortDate = pReader.Text(LOCALE_SSHORTDATE);
   pRules.longDate = pReader.Text(LOCALE_SLONGDATE);
   pRules.longTime = pReader.Text(LOCALE_STIMEFORMAT);
   pRules.shortTime = pReader.Text(LOCALE_SSHORTTIME);
-  pRules.dateOrder = static_cast<DateOrder>(std::clamp(pReader.Number(LOCALE_IDATE), 0, 2));
   pRules.am = pReader.Text(LOCALE_S1159);
   pRules.pm = pReader.Text(LOCALE_S2359);
   pRules.firstDayOfWeek = pReader.Number(LOCALE_IFIRSTDAYOFWEEK);
@@ -85,6 +84,9 @@ void FillDates(LocaleRules& pRules, const LocaleReader& pReader) {
   pReader.Names(LOCALE_SABBREVDAYNAME1, pRules.shortDays);
   pReader.Names(LOCALE_SMONTHNAME1, pRules.months);
   pReader.Names(LOCALE_SABBREVMONTHNAME1, pRules.shortMonths);
+  pReader.Names(LOCALE_SMONTHNAME1 | LOCALE_RETURN_GENITIVE_NAMES, pRules.monthsWithDay);
+  pReader.Names(LOCALE_SABBREVMONTHNAME1 | LOCALE_RETURN_GENITIVE_NAMES, pRules.shortMonthsWithDay);
+  SettleMonthNames(pRules);
 }
 
 LocaleRules ReadRules(const wchar_t* pName, LCTYPE pFlags) {
@@ -94,7 +96,14 @@ LocaleRules ReadRules(const wchar_t* pName, LCTYPE pFlags) {
   FillNumbers(rules, reader);
   FillMoney(rules, reader);
   FillDates(rules, reader);
+  SettleDelimiters(rules);
   return rules;
+}
+
+BOOL CALLBACK AddName(LPWSTR pName, DWORD, LPARAM pNames) {
+  const std::u16string name(pName, pName + lstrlenW(pName));
+  if (!name.empty()) reinterpret_cast<std::vector<std::string>*>(pNames)->push_back(ToUtf8(name));
+  return TRUE;
 }
 
 }  // namespace
@@ -108,6 +117,12 @@ LocaleRules NamedLocaleRules(std::string_view pName) {
   const std::wstring name(pName.begin(), pName.end());
   if (name.empty() || !IsValidLocaleName(name.c_str())) return {};
   return ReadRules(name.c_str(), LOCALE_NOUSEROVERRIDE);
+}
+
+std::vector<std::string> LocaleNames() {
+  std::vector<std::string> names;
+  EnumSystemLocalesEx(AddName, LOCALE_ALL, reinterpret_cast<LPARAM>(&names), nullptr);
+  return names;
 }
 
 }  // namespace qzbase::os

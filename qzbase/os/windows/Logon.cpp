@@ -4,15 +4,9 @@
 
 #include <windows.h>
 
+#include "qzbase/os/windows/WideText.h"
+
 namespace qzbase::os {
-namespace {
-
-std::wstring Wide(std::u16string_view pText) {
-  return {pText.begin(), pText.end()};
-}
-
-}  // namespace
-
 bool IsLogonValid(std::u16string_view pUserName, std::u16string_view pPassword) {
   // The system would read them as far as the zero.
   if (pUserName.find(u'\0') != pUserName.npos || pPassword.find(u'\0') != pPassword.npos) return false;

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include "qzbase/os/windows/WideText.h"
+
 namespace qzbase::os {
 namespace {
 
@@ -14,10 +16,6 @@ bool IsDesktopVisible() {
   USEROBJECTFLAGS flags{};
   return station != nullptr && GetUserObjectInformationW(station, UOI_FLAGS, &flags, sizeof flags, nullptr) &&
          (flags.dwFlags & WSF_VISIBLE) != 0;
-}
-
-std::wstring Wide(std::u16string_view pText) {
-  return {pText.begin(), pText.end()};
 }
 
 }  // namespace

@@ -54,11 +54,11 @@ RegistryResult WriteRegistryValue(std::int32_t pRoot, const std::string& pSectio
                                   const RegistryValue& pValue) {
   KeyHandle key;
   const RegistryResult opened = CreateKey(pRoot, pSection, KEY_SET_VALUE | KEY_CREATE_SUB_KEY, key);
-  if (opened != RegistryResult::Success) return opened;
+  if (opened != RegistryResult::Success || pValue.kind == RegistryKind::None) return opened;
   if (pValue.data.size() >= std::numeric_limits<DWORD>::max()) return RegistryResult::OutOfMemory;
-  // The system takes a zero that stands behind a text's bytes as one of them: so none stands there.
+  // The system decides by the zero that it finds behind a text's characters whether to store one.
   std::vector<std::uint8_t> data = pValue.data;
-  data.push_back(0xFF);
+  data.push_back(0);
   return ResultOf(RegSetValueExA(key.get(), pKey.c_str(), 0, static_cast<DWORD>(pValue.kind), data.data(),
                                  static_cast<DWORD>(pValue.data.size())));
 }

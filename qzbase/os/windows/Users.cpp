@@ -9,6 +9,8 @@
 #include <lm.h>
 // clang-format on
 
+#include "qzbase/os/windows/WideText.h"
+
 namespace qzbase::os {
 namespace {
 
@@ -22,10 +24,6 @@ struct FreeAnswer {
 };
 
 std::u16string Text(std::wstring_view pText) {
-  return {pText.begin(), pText.end()};
-}
-
-std::wstring Wide(std::u16string_view pText) {
   return {pText.begin(), pText.end()};
 }
 
