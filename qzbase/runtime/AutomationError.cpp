@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
+#include <stdexcept>
 #include <utility>
 
 #include "qzbase/os/ThreadSlot.h"
@@ -132,9 +134,16 @@ constexpr StandardText kStandardTexts[] = {
 
 constexpr std::u16string_view kGeneralText = u"Application-defined or object-defined error";
 
-ErrorRecord& ThreadRecord() {
-  static os::PerThread<ErrorRecord> record;
+using SharedRecord = std::shared_ptr<const ErrorRecord>;
+
+// Null while there is no error. Shared, so that keeping it costs next to nothing.
+SharedRecord& ThreadRecord() {
+  static os::PerThread<SharedRecord> record;
   return *record;
+}
+
+std::int32_t NumberOf(RuntimeError pError) noexcept {
+  return static_cast<std::int32_t>(pError);
 }
 
 }  // namespace
@@ -144,25 +153,41 @@ AutomationError::AutomationError(ErrorRecord pRecord)
       what_("error " + std::to_string(record_.number) + ": " + os::ToUtf8(record_.description)) {}
 
 void Raise(RuntimeError pError) {
-  const auto number = static_cast<std::int32_t>(pError);
-  Raise({number, {}, std::u16string(StandardErrorText(number))});
+  const std::int32_t number = NumberOf(pError);
+  Raise({number, {}, std::u16string(StandardErrorText(number)), true});
 }
 
 void Raise(ErrorRecord pRecord) {
-  ThreadRecord() = pRecord;
+  SetLastError(pRecord);
   throw AutomationError(std::move(pRecord));
 }
 
 const ErrorRecord& LastError() {
-  return ThreadRecord();
+  static const ErrorRecord none;
+  const SharedRecord& record = ThreadRecord();
+  return record ? *record : none;
 }
 
 void SetLastError(ErrorRecord pRecord) {
-  ThreadRecord() = std::move(pRecord);
+  ThreadRecord() = std::make_shared<const ErrorRecord>(std::move(pRecord));
 }
 
 void ClearLastError() {
-  ThreadRecord() = {};
+  ThreadRecord() = nullptr;
+}
+
+LastErrorKept::LastErrorKept() : record_(ThreadRecord()) {}
+
+LastErrorKept::~LastErrorKept() {
+  ThreadRecord() = std::move(record_);
+}
+
+std::int32_t ErrorNumberOf(const std::exception& pError) noexcept {
+  if (const auto* error = dynamic_cast<const AutomationError*>(&pError); error && error->Number() != 0)
+    return error->Number();
+  const bool isOfMemory =
+      dynamic_cast<const std::bad_alloc*>(&pError) || dynamic_cast<const std::length_error*>(&pError);
+  return NumberOf(isOfMemory ? RuntimeError::OutOfMemory : RuntimeError::InternalError);
 }
 
 std::u16string_view StandardErrorText(std::int32_t pNumber) {

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -43,6 +44,7 @@ struct ErrorRecord {
   std::int32_t number = 0;
   std::u16string source;
   std::u16string description;
+  bool isRuntime = false;  // the runtime's own, which has no source: hosts are told the class that was called
 };
 
 class AutomationError : public std::exception {
@@ -52,6 +54,7 @@ class AutomationError : public std::exception {
   std::int32_t Number() const noexcept { return record_.number; }
   const std::u16string& Source() const noexcept { return record_.source; }
   const std::u16string& Description() const noexcept { return record_.description; }
+  const ErrorRecord& Record() const noexcept { return record_; }
   bool Is(RuntimeError pError) const noexcept { return record_.number == static_cast<std::int32_t>(pError); }
 
   // "error 9: Subscript out of range", in UTF-8.
@@ -67,11 +70,27 @@ class AutomationError : public std::exception {
 [[noreturn]] void Raise(RuntimeError pError);
 [[noreturn]] void Raise(ErrorRecord pRecord);
 
-// The error raised last on the calling thread (number 0: none since `ClearLastError`). Hosts that receive an error from
-// elsewhere set it.
+// The error raised last on the calling thread (number 0: none since `ClearLastError`), good until the next one. Hosts
+// that receive an error from elsewhere set it.
 const ErrorRecord& LastError();
 void SetLastError(ErrorRecord pRecord);
 void ClearLastError();
+
+// Brings back at its end the last error that it found, whatever was raised meanwhile.
+class LastErrorKept {
+ public:
+  LastErrorKept();
+  ~LastErrorKept();
+  LastErrorKept(const LastErrorKept&) = delete;
+  LastErrorKept& operator=(const LastErrorKept&) = delete;
+
+ private:
+  std::shared_ptr<const ErrorRecord> record_;
+};
+
+// The number that an exception has for a caller who is told numbers: its own, 7 where memory did not suffice, 51 for
+// what is no error of this library. Never 0.
+std::int32_t ErrorNumberOf(const std::exception& pError) noexcept;
 
 // The runtime's standard description of an error number below 1000; numbers without one of their own share a general
 // text.

@@ -11,11 +11,9 @@
 #include <cstdint>
 #include <string_view>
 
-namespace qzbase::runtime {
+#include "qzbase/runtime/Characters.h"
 
-constexpr bool IsDecimalDigit(char16_t pCharacter) noexcept {
-  return pCharacter >= u'0' && pCharacter <= u'9';
-}
+namespace qzbase::runtime {
 
 class CollectedDigits {
  public:

@@ -53,4 +53,8 @@ Order CompareExact(const Variant& pLeft, const Variant& pRight, const LocaleRule
                    pLeft, pRight, pRules);
 }
 
+bool EqualExact(const Variant& pLeft, const Variant& pRight, const LocaleRules& pRules) {
+  return CompareExact(pLeft, pRight, pRules) == Order::Equal;
+}
+
 }  // namespace qzbase::runtime

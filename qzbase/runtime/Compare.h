@@ -26,4 +26,7 @@ Order Compare(const Variant& pLeft, const Variant& pRight, CaseRule pCase = Case
 // The same with texts compared exactly, by the numbers of their characters: "B" < "a".
 Order CompareExact(const Variant& pLeft, const Variant& pRight, const LocaleRules& pRules = ThreadLocale());
 
+// Whether that is `Equal`: the one equality of all containers of variants.
+bool EqualExact(const Variant& pLeft, const Variant& pRight, const LocaleRules& pRules = ThreadLocale());
+
 }  // namespace qzbase::runtime

@@ -208,6 +208,13 @@ std::int16_t RoundToInteger(double pValue) {
   return RoundTo<std::int16_t>(pValue);
 }
 
+Ref<Object> ToObject(const Variant& pValue) {
+  const auto* object = pValue.If<Ref<Object>>();
+  if (!object) Raise(RuntimeError::TypeMismatch);
+  if (!*object) Raise(RuntimeError::ObjectNotSet);
+  return *object;
+}
+
 Variant ConvertTo(const Variant& pValue, VariantKind pKind, const LocaleRules& pRules) {
   if (pValue.Kind() == pKind) return pValue;
   switch (pKind) {

@@ -45,6 +45,9 @@ std::u16string_view BooleanText(bool pValue) noexcept;
 std::int32_t RoundToLong(double pValue);
 std::int16_t RoundToInteger(double pValue);
 
+// The object in a variant: error 13 where there is none, 91 where it is unset.
+Ref<Object> ToObject(const Variant& pValue);
+
 // A variant of another kind, by the grid above. To empty, null, object or array converts only a value that is that
 // already.
 Variant ConvertTo(const Variant& pValue, VariantKind pKind, const LocaleRules& pRules = ThreadLocale());

@@ -42,6 +42,11 @@ Date MakeDate(const DateParts& pParts);
 // A day of the calendar, and one of the years 100 to 9999.
 bool IsValidDay(std::int32_t pYear, std::int32_t pMonth, std::int32_t pDay);
 
+// The year that users mean: those of two digits run from 1930 to 2029.
+constexpr std::int32_t FullYear(std::int32_t pYear) {
+  return pYear < 30 ? pYear + 2000 : pYear < 100 ? pYear + 1900 : pYear;
+}
+
 // 0 Monday to 6 Sunday.
 std::int32_t DayOfWeek(const DateParts& pParts);
 

@@ -29,16 +29,18 @@ const std::u16string& NameOf(const std::array<std::u16string, N>& pNames, std::i
   return pNames[static_cast<std::size_t>(pIndex)];
 }
 
-// Appends the text behind an opening quote ('' is a quote) and returns the place behind the closing one.
-std::size_t AppendQuoted(std::u16string& pText, std::u16string_view pPicture, std::size_t pPlace) {
-  for (; pPlace < pPicture.size(); ++pPlace) {
-    if (pPicture[pPlace] == u'\'') {
-      if (!pPicture.substr(pPlace + 1).starts_with(u'\'')) return pPlace + 1;
-      ++pPlace;
-    }
-    pText += pPicture[pPlace];
-  }
-  return pPlace;
+// A name beside a day; the plain one where the language has no other.
+const std::u16string& NameWithDay(const std::array<std::u16string, 12>& pNamesWithDay,
+                                  const std::array<std::u16string, 12>& pNames, std::int32_t pIndex) {
+  const std::u16string& name = NameOf(pNamesWithDay, pIndex);
+  return name.empty() ? NameOf(pNames, pIndex) : name;
+}
+
+// The name of a month beside a day instead of the name alone; other fields as they are.
+DateField WithDay(DateField pMonth) {
+  return pMonth == DateField::MonthName        ? DateField::MonthNameWithDay
+         : pMonth == DateField::MonthShortName ? DateField::MonthShortNameWithDay
+                                               : pMonth;
 }
 
 }  // namespace
@@ -78,6 +80,12 @@ void AppendField(std::u16string& pText, DateField pField, const DateParts& pPart
     case DateField::MonthName:
       pText += NameOf(pRules.months, pParts.month - 1);
       return;
+    case DateField::MonthShortNameWithDay:
+      pText += NameWithDay(pRules.shortMonthsWithDay, pRules.shortMonths, pParts.month - 1);
+      return;
+    case DateField::MonthNameWithDay:
+      pText += NameWithDay(pRules.monthsWithDay, pRules.months, pParts.month - 1);
+      return;
     case DateField::YearOfCentury:
       return AppendDigits(pText, pParts.year % 100);
     case DateField::YearTwoDigits:
@@ -109,22 +117,22 @@ void AppendField(std::u16string& pText, DateField pField, const DateParts& pPart
   }
 }
 
+DateField FieldOf(const os::PicturePiece& pPiece, bool pWithDay) {
+  const auto letter = std::find_if(std::begin(kPictureLetters), std::end(kPictureLetters),
+                                   [&](const PictureLetter& pLetter) { return pLetter.letter == pPiece.letter; });
+  const DateField field = letter->fieldOfLength[std::min<std::size_t>(pPiece.text.size(), 4) - 1];
+  return pWithDay ? WithDay(field) : field;
+}
+
 void AppendPicture(std::u16string& pText, std::u16string_view pPicture, const DateParts& pParts,
                    const LocaleRules& pRules) {
-  for (std::size_t place = 0; place < pPicture.size();) {
-    const char16_t c = pPicture[place];
-    const auto letter = std::find_if(std::begin(kPictureLetters), std::end(kPictureLetters),
-                                     [c](const PictureLetter& pLetter) { return pLetter.letter == c; });
-    if (letter != std::end(kPictureLetters)) {
-      const std::size_t length = std::min(pPicture.find_first_not_of(c, place), pPicture.size()) - place;
-      AppendField(pText, letter->fieldOfLength[std::min<std::size_t>(length, 4) - 1], pParts, pRules);
-      place += length;
-    } else if (c == u'\'') {
-      place = AppendQuoted(pText, pPicture, place + 1);
-    } else {
-      pText += c;
-      ++place;
-    }
+  const bool hasDay = os::HasDayOfMonth(pPicture);
+  os::PicturePieces pieces(pPicture);
+  for (os::PicturePiece piece; pieces.Next(piece);) {
+    if (piece.IsField())
+      AppendField(pText, FieldOf(piece, hasDay), pParts, pRules);
+    else
+      pText += piece.text;
   }
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "qzbase/os/LocalePicture.h"
 #include "qzbase/runtime/Date.h"
 #include "qzbase/runtime/Locale.h"
 
@@ -19,10 +20,12 @@ enum class DateField : std::uint8_t {
   MonthTwoDigits,  // 03
   MonthShortName,  // Mar
   MonthName,       // March
-  YearOfCentury,   // 4
-  YearTwoDigits,   // 04
-  Year,            // 2004
-  Hour,            // 20
+  MonthShortNameWithDay,
+  MonthNameWithDay,  // as the language says it beside a day
+  YearOfCentury,     // 4
+  YearTwoDigits,     // 04
+  Year,              // 2004
+  Hour,              // 20
   HourTwoDigits,
   Hour12,  // 8, and 12 for midnight and noon
   Hour12TwoDigits,
@@ -39,8 +42,10 @@ void AppendDigits(std::u16string& pText, std::int32_t pNumber, std::int32_t pDig
 
 void AppendField(std::u16string& pText, DateField pField, const DateParts& pParts, const LocaleRules& pRules);
 
-// Appends a picture of the locale: runs of d, M, y, h, H, m, s, t are fields, text in single quotes and everything else
-// stands for itself.
+// The field that a field of a picture is; months have the names that go with a day where `pWithDay`.
+DateField FieldOf(const os::PicturePiece& pPiece, bool pWithDay);
+
+// Appends a picture of the locale. Its month has the name that goes with a day where the picture has a day.
 void AppendPicture(std::u16string& pText, std::u16string_view pPicture, const DateParts& pParts,
                    const LocaleRules& pRules);
 

@@ -2,7 +2,8 @@
 //
 //   "8:15 PM 28 Nov 2031" -> 8 (goes on as a time), 15 (PM), 28, 11 (named), 2031
 //
-// Blanks, delimiters of dates and names of weekdays only divide; anything else makes the text no date.
+// Blanks, delimiters of dates, names of weekdays and the words in the locale's pictures of dates ("28 de noviembre")
+// only divide; anything else makes the text no date.
 #pragma once
 
 #include <array>
@@ -10,11 +11,9 @@
 #include <cstdint>
 #include <string_view>
 
-#include "qzbase/runtime/Locale.h"
+#include "qzbase/runtime/DateWords.h"
 
 namespace qzbase::runtime {
-
-enum class HalfDay : std::uint8_t { None, Am, Pm };
 
 struct DateItem {
   std::int32_t value = 0;
@@ -34,8 +33,9 @@ class DateItems {
   const DateItem& operator[](std::size_t pIndex) const { return items_[pIndex]; }
 
  private:
-  bool ReadNumber(std::u16string_view& pRest);
+  bool ReadNumber(std::u16string_view& pRest, const LocaleRules& pRules);
   bool ReadWord(std::u16string_view& pRest, const LocaleRules& pRules);
+  bool ReadPictureWord(std::u16string_view& pRest, const LocaleRules& pRules);
   bool ReadDelimiter(std::u16string_view& pRest, const LocaleRules& pRules);
   bool Add(DateItem pItem);
   DateItem& Last() { return items_[count_ - 1]; }

@@ -33,6 +33,16 @@ bool HalfDayFollows(std::u16string_view pRest) {
   return false;
 }
 
+// Whether a day of the month stands in the first section of a pattern.
+bool HasDayOfMonth(std::u16string_view pPattern) {
+  while (!pPattern.empty()) {
+    const PatternPiece piece = CutPiece(pPattern);
+    if (piece.Is(DateRole::End)) return false;
+    if (piece.Is(DateRole::DayField) && piece.text.size() <= 2) return true;
+  }
+  return false;
+}
+
 // Writes the pieces of one pattern, remembering what of them changes the meaning of later ones.
 class PatternWriter {
  public:
@@ -40,6 +50,7 @@ class PatternWriter {
       : text_(pText), parts_(pParts), rules_(pRules), week_(pWeek) {}
 
   void Write(std::u16string_view pPattern) {
+    pattern_ = pPattern;
     while (!pPattern.empty()) {
       const PatternPiece piece = CutPiece(pPattern);
       if (piece.Is(DateRole::End)) return;
@@ -66,6 +77,7 @@ class PatternWriter {
   const DateParts& parts_;
   const LocaleRules& rules_;
   WeekRule week_;
+  std::u16string_view pattern_;
   bool minuteNext_ = false;  // the next m or mm is the minute, which is written so once
   bool minuteWritten_ = false;
   bool halfDaySeen_ = false;
@@ -83,6 +95,8 @@ void PatternWriter::WriteToken(const DateToken& pToken, std::u16string_view pSpe
       return WriteField(HalfDayFollows(pRest) ? pToken.otherField : pToken.field);
     case DateRole::Month:
       return WriteMonth(pToken);
+    case DateRole::MonthName:
+      return WriteField(HasDayOfMonth(pattern_) ? pToken.otherField : pToken.field);
     case DateRole::DayOfYear:
       return AppendDigits(text_, runtime::DayOfYear(parts_));
     case DateRole::Quarter:

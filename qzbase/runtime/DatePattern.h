@@ -7,8 +7,8 @@
 //   am/pm a/p         half of the day as spelled      ampm      the locale's text for it
 //   / :               the locale's delimiters         "x" \x    x itself, as every other character is
 //
-// The letters ignore case. A mark for the half of the day makes the hour before it one of 12 hours. Only the first
-// section of a pattern divided by ";" counts.
+// The letters ignore case. A month's name is the one that goes with a day where the pattern has a day. A mark for the
+// half of the day makes the hour before it one of 12 hours. Only the first section of a pattern divided by ";" counts.
 //
 // Named formats: General Date, Long Date, Medium Date, Short Date, Long Time, Medium Time, Short Time, with or without
 // the blank.

@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <span>
 
+#include "qzbase/os/LocalePicture.h"
 #include "qzbase/runtime/DateItems.h"
+#include "qzbase/runtime/DatePictureReader.h"
 
 namespace qzbase::runtime {
 namespace {
@@ -30,11 +32,19 @@ constexpr ItemOrder kYearMonth = {.month = 1, .year = 0};
 constexpr ItemOrder kOrdersOfThree[] = {kYearMonthDay, kMonthDayYear, kDayMonthYear, kYearDayMonth};
 constexpr ItemOrder kOrdersOfTwo[] = {kMonthDay, kDayMonth, kMonthYear, kYearMonth};
 
-const ItemOrder& LocaleOrder(DateOrder pOrder, std::size_t pItems) {
-  if (pItems == 2) return pOrder == DateOrder::DayMonthYear ? kDayMonth : kMonthDay;
-  return pOrder == DateOrder::DayMonthYear   ? kDayMonthYear
-         : pOrder == DateOrder::YearMonthDay ? kYearMonthDay
-                                             : kMonthDayYear;
+// The order in which a picture has day, month and year, of two items without the year.
+ItemOrder OrderOf(std::u16string_view pPicture, std::size_t pItems) {
+  ItemOrder order;
+  std::size_t place = 0;
+  os::PicturePieces pieces(pPicture);
+  for (os::PicturePiece piece; pieces.Next(piece);) {
+    std::size_t* item = piece.letter == u'M'                         ? &order.month
+                        : piece.letter == u'd' && !piece.IsWeekDay() ? &order.day
+                        : piece.letter == u'y' && pItems > 2         ? &order.year
+                                                                     : nullptr;
+    if (item != nullptr && *item == kNone) *item = place++;
+  }
+  return place == pItems ? order : pItems > 2 ? kMonthDayYear : kMonthDay;
 }
 
 // A run of items: first one and number.
@@ -42,10 +52,6 @@ struct ItemRun {
   std::size_t first = 0;
   std::size_t count = 0;
 };
-
-std::int32_t FullYear(std::int32_t pYear) {
-  return pYear < 30 ? pYear + 2000 : pYear < 100 ? pYear + 1900 : pYear;
-}
 
 // Works the items of one text out into a day and a time.
 class DateSolver {
@@ -109,7 +115,7 @@ bool DateSolver::SolveTime(ItemRun pTime) {
 
 bool DateSolver::SolveDay(ItemRun pDate) {
   if (pDate.count != 2 && pDate.count != 3) return false;
-  if (TryOrder(pDate, LocaleOrder(rules_.dateOrder, pDate.count))) return true;
+  if (TryOrder(pDate, OrderOf(rules_.shortDate, pDate.count))) return true;
   for (const ItemOrder& order : pDate.count == 2 ? kOrdersOfTwo : kOrdersOfThree)
     if (TryOrder(pDate, order)) return true;
   return false;
@@ -137,6 +143,8 @@ bool DateSolver::TryOrder(ItemRun pDate, const ItemOrder& pOrder) {
 }  // namespace
 
 bool ReadDate(std::u16string_view pText, Date& pDate, const LocaleRules& pRules, YearClock pClock) {
+  DateParts parts;
+  if (ReadPictures(pText, parts, pRules)) return pDate = MakeDate(parts), true;
   DateItems items;
   if (!items.Read(pText, pRules)) return false;
   DateSolver solver(items, pRules, pClock);

@@ -14,6 +14,7 @@ enum class DateRole : std::uint8_t {
   DayField,  // ends the time: a month behind it is no minute
   Hour,
   Month,
+  MonthName,
   DayOfYear,
   Quarter,
   WeekDay,
@@ -34,7 +35,7 @@ struct DateToken {
   std::u16string_view letters;
   DateRole role;
   DateField field = DateField::Day;
-  DateField otherField = field;  // of an hour in 12-hour form, of a month that is a minute
+  DateField otherField = field;  // of an hour in 12-hour form, of a month that is a minute, of a name beside a day
 };
 
 // A piece of a pattern: a token as it is spelled, or text that stands for itself.

@@ -59,9 +59,10 @@ std::u16string FormatAsDate(const Variant& pValue, double pDays, std::u16string_
 std::u16string FormatByKind(const Variant& pValue, std::u16string_view pPattern, const LocaleRules& pRules,
                             WeekRule pWeek) {
   if (pValue.IsNull()) return FormatNull(pPattern, pRules);
-  if (pPattern.empty()) return DefaultText(pValue, pRules);
-
   const NamedNumberFormat named = FindNamedNumberFormat(pPattern);
+  const bool isGeneral = pPattern.empty() || (pValue.IsEmpty() && named == NamedNumberFormat::GeneralNumber);
+  if (isGeneral) return DefaultText(pValue, pRules);
+
   const bool isNamed = named != NamedNumberFormat::None;
   const PatternSections sections(isNamed ? std::u16string_view() : pPattern);
   if (sections.Kind(0) == PatternKind::Text) return FormatText(DefaultText(pValue, pRules), pPattern);

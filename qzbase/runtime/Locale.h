@@ -8,7 +8,6 @@
 
 namespace qzbase::runtime {
 
-using os::DateOrder;
 using os::LocaleRules;
 
 const LocaleRules& ThreadLocale();

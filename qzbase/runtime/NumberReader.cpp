@@ -2,20 +2,13 @@
 
 #include <limits>
 
+#include "qzbase/runtime/Characters.h"
 #include "qzbase/runtime/CollectedDigits.h"
 
 namespace qzbase::runtime {
 namespace {
 
 constexpr std::u16string_view kGroupingBlanks = u" \u00A0\u202F";
-
-bool IsBlank(char16_t pCharacter) {
-  if (pCharacter <= u' ') return pCharacter == u' ' || (pCharacter >= u'\t' && pCharacter <= u'\r');
-  if (pCharacter < u'\u0085') return false;
-  if (pCharacter >= u'\u2000' && pCharacter <= u'\u200A') return true;
-  return std::u16string_view(u"\u0085\u00A0\u1680\u2028\u2029\u202F\u205F\u3000").find(pCharacter) !=
-         std::u16string_view::npos;
-}
 
 // Value of a hexadecimal digit, 16 for any other character.
 std::uint32_t HexDigit(char16_t pCharacter) {
@@ -151,10 +144,12 @@ bool NumberScanner::ScanDecimal() {
   }
   if (digits_.IsEmpty()) return false;
   const char16_t mark = Next();
-  const bool hasExponent = !currency_ && (mark == u'e' || mark == u'E' || mark == u'd' || mark == u'D');
-  return !hasExponent || ScanExponent();
+  const std::u16string_view before = rest_;
+  if (!currency_ && (mark == u'e' || mark == u'E' || mark == u'd' || mark == u'D') && !ScanExponent()) rest_ = before;
+  return true;
 }
 
+// False where no exponent follows the letter: that begins a currency then ("5 DA"), or the text is no number.
 // Digits behind a thousands delimiter in the exponent continue the number, not the exponent: the platform reads
 // "1e3.5" as 15 thousands where "." groups thousands.
 bool NumberScanner::ScanExponent() {

@@ -15,12 +15,12 @@ namespace {
 
 // Gathers a number text and appends it in one go at the end. What is gathered never outgrows the room: a sign, the
 // digits of a double with the zeros round them, the delimiter and an exponent.
-class Piece {
+class NumberTail {
  public:
-  explicit Piece(std::u16string& pText) : text_(pText) {}
-  ~Piece() { Flush(); }
-  Piece(const Piece&) = delete;
-  Piece& operator=(const Piece&) = delete;
+  explicit NumberTail(std::u16string& pText) : text_(pText) {}
+  ~NumberTail() { Flush(); }
+  NumberTail(const NumberTail&) = delete;
+  NumberTail& operator=(const NumberTail&) = delete;
 
   void Add(char16_t pCharacter) { *end_++ = pCharacter; }
   void Add(std::string_view pDigits) { end_ = std::copy(pDigits.begin(), pDigits.end(), end_); }
@@ -42,32 +42,32 @@ class Piece {
   char16_t* end_ = room_.data();
 };
 
-void AddMantissa(Piece& pPiece, std::string_view pDigits, std::int32_t pPoint, std::u16string_view pDecimal) {
+void AddMantissa(NumberTail& pTail, std::string_view pDigits, std::int32_t pPoint, std::u16string_view pDecimal) {
   const auto count = static_cast<std::int32_t>(pDigits.size());
   if (pPoint <= 0) {
-    pPiece.Add(u'0');
-    pPiece.AddDelimiter(pDecimal);
-    pPiece.AddZeros(-pPoint);
-    pPiece.Add(pDigits);
+    pTail.Add(u'0');
+    pTail.AddDelimiter(pDecimal);
+    pTail.AddZeros(-pPoint);
+    pTail.Add(pDigits);
   } else if (pPoint >= count) {
-    pPiece.Add(pDigits);
-    pPiece.AddZeros(pPoint - count);
+    pTail.Add(pDigits);
+    pTail.AddZeros(pPoint - count);
   } else {
     const auto point = static_cast<std::size_t>(pPoint);
-    pPiece.Add(pDigits.substr(0, point));
-    pPiece.AddDelimiter(pDecimal);
-    pPiece.Add(pDigits.substr(point));
+    pTail.Add(pDigits.substr(0, point));
+    pTail.AddDelimiter(pDecimal);
+    pTail.Add(pDigits.substr(point));
   }
 }
 
-void AddExponent(Piece& pPiece, std::int32_t pExponent) {
+void AddExponent(NumberTail& pTail, std::int32_t pExponent) {
   const std::int32_t power = std::abs(pExponent);
   const auto digit = [](std::int32_t pDigit) { return static_cast<char16_t>(u'0' + pDigit); };
-  pPiece.Add(u'E');
-  pPiece.Add(pExponent < 0 ? u'-' : u'+');
-  if (power >= 100) pPiece.Add(digit(power / 100));
-  pPiece.Add(digit(power / 10 % 10));
-  pPiece.Add(digit(power % 10));
+  pTail.Add(u'E');
+  pTail.Add(pExponent < 0 ? u'-' : u'+');
+  if (power >= 100) pTail.Add(digit(power / 100));
+  pTail.Add(digit(power / 10 % 10));
+  pTail.Add(digit(power % 10));
 }
 
 void Append(std::u16string& pText, double pValue, std::int32_t pMaxDigits, const LocaleRules& pRules) {
@@ -84,10 +84,10 @@ void Append(std::u16string& pText, double pValue, std::int32_t pMaxDigits, const
   const std::int32_t point = decimal.Point();
   const std::int32_t decimals = static_cast<std::int32_t>(digits.size()) - point;
   const bool exponentForm = point > pMaxDigits || (point <= 0 && decimals > pMaxDigits);
-  Piece piece(pText);
-  if (decimal.IsNegative()) piece.Add(u'-');  // whatever the locale's sign is: so does the platform
-  AddMantissa(piece, digits, exponentForm ? 1 : point, pRules.decimal);
-  if (exponentForm) AddExponent(piece, point - 1);
+  NumberTail tail(pText);
+  if (decimal.IsNegative()) tail.Add(u'-');  // whatever the locale's sign is: so does the platform
+  AddMantissa(tail, digits, exponentForm ? 1 : point, pRules.decimal);
+  if (exponentForm) AddExponent(tail, point - 1);
 }
 
 // The characters of a text but the blanks, one by one.
@@ -147,7 +147,7 @@ void AppendNumberText(std::u16string& pText, double pValue, const LocaleRules& p
 void AppendNumberText(std::u16string& pText, std::int32_t pValue) {
   std::array<char, 12> digits;
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), pValue).ptr;
-  Piece(pText).Add({digits.data(), static_cast<std::size_t>(end - digits.data())});
+  NumberTail(pText).Add({digits.data(), static_cast<std::size_t>(end - digits.data())});
 }
 
 double LeadingNumber(std::u16string_view pText) {

@@ -30,6 +30,13 @@ Ref<T> New(Arguments&&... pArguments) {
 // property get").
 enum class CallKind : std::uint16_t { Method = 1, Get = 2, MethodOrGet = 3, Let = 4, Set = 8 };
 
+// A member of an interface that the platform itself defines: its number there, and its name. The number is the same in
+// every object that has the interface, whatever language that calls its members by: the Bold of a standard font is 3.
+struct NumberedMember {
+  std::int32_t number = 0;
+  std::u16string_view name;
+};
+
 class Object : public std::enable_shared_from_this<Object> {
  public:
   Object() = default;
@@ -44,6 +51,10 @@ class Object : public std::enable_shared_from_this<Object> {
   // The classes of this library have the members of their tables (automation/ClassTable.h). Objects from elsewhere, a
   // host's own or a test's, override it.
   virtual Variant Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments);
+
+  // The same for a member that has a number. An object of an automation host is called by the number, every other one
+  // by the name.
+  virtual Variant InvokeNumbered(const NumberedMember& pMember, CallKind pKind, std::span<Variant> pArguments);
 
   // By what a host holds this object, while it does: for the automation server alone, which gives out the same object
   // by the same address.

@@ -11,7 +11,7 @@
 namespace qzbase::runtime {
 namespace {
 
-constexpr double kTooLarge = 1e15;
+constexpr double kExactWhole = 1e15;     // below it a double holds every digit of a number with decimals
 constexpr std::int32_t kMaxPlaces = 16;  // on either side of the point
 
 struct Places {
@@ -98,8 +98,8 @@ bool AppendDecimal(std::u16string& pText, double pWhole, std::int32_t pDecimals,
   const Places places = {1, decimals, decimals, decimals > 0};
   if (!HasRoom(places, pRules)) return false;
   const double whole = pWhole * kExactPowers[static_cast<std::size_t>(zeros)];
-  if (whole < kTooLarge) Append(pText, whole, places, pNegative, pRules);
-  return whole < kTooLarge;
+  if (whole < kExactWhole) Append(pText, whole, places, pNegative, pRules);
+  return whole < kExactWhole;
 }
 
 }  // namespace qzbase::runtime

@@ -119,7 +119,11 @@ class Variant {
 template <class T>
 Variant::Variant(Array<T> pArray) : value_(std::in_place_type<ArrayBox>, AnyArray(std::move(pArray))) {}
 
-// The calls by name of Object.h.
+// The calls of Object.h.
+inline Variant Object::InvokeNumbered(const NumberedMember& pMember, CallKind pKind, std::span<Variant> pArguments) {
+  return Invoke(pMember.name, pKind, pArguments);
+}
+
 namespace detail {
 template <class... Arguments>
 Variant InvokeWith(Object& pObject, std::u16string_view pName, CallKind pKind, Arguments&&... pArguments) {

@@ -6,65 +6,66 @@
 
 #include "qzbase/os/Wildcards.h"
 #include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Characters.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase::runtime {
 namespace {
 
-enum class PieceKind : std::uint8_t { Run, Any, Digit, List, OtherThanList };
+enum class Sought : std::uint8_t { Run, Any, Digit, List, OtherThanList };
 
 // One character is a list of one.
-struct WildcardPiece {
-  PieceKind kind;
+struct Wildcard {
+  Sought kind;
   std::u16string_view list;  // without brackets and "!"
 };
 
-WildcardPiece ListPiece(std::u16string_view pList) noexcept {
+Wildcard ListWildcard(std::u16string_view pList) noexcept {
   const bool isNegative = pList.size() > 1 && pList.front() == u'!';
-  return isNegative ? WildcardPiece{PieceKind::OtherThanList, pList.substr(1)} : WildcardPiece{PieceKind::List, pList};
+  return isNegative ? Wildcard{Sought::OtherThanList, pList.substr(1)} : Wildcard{Sought::List, pList};
 }
 
-WildcardPiece CharacterPiece(std::u16string_view pCharacter) noexcept {
+Wildcard CharacterWildcard(std::u16string_view pCharacter) noexcept {
   switch (pCharacter.front()) {
     case u'*':
-      return {PieceKind::Run, {}};
+      return {Sought::Run, {}};
     case u'?':
-      return {PieceKind::Any, {}};
+      return {Sought::Any, {}};
     case u'#':
-      return {PieceKind::Digit, {}};
+      return {Sought::Digit, {}};
     default:
-      return {PieceKind::List, pCharacter};
+      return {Sought::List, pCharacter};
   }
 }
 
-std::vector<WildcardPiece> PiecesOf(std::u16string_view pPattern) {
-  std::vector<WildcardPiece> pieces;
-  pieces.reserve(pPattern.size());
+std::vector<Wildcard> WildcardsOf(std::u16string_view pPattern) {
+  std::vector<Wildcard> wildcards;
+  wildcards.reserve(pPattern.size());
   for (std::size_t at = 0; at < pPattern.size(); ++at) {
     if (pPattern[at] != u'[') {
-      pieces.push_back(CharacterPiece(pPattern.substr(at, 1)));
+      wildcards.push_back(CharacterWildcard(pPattern.substr(at, 1)));
       continue;
     }
     const std::size_t end = pPattern.find(u']', at);
     if (end == std::u16string_view::npos) Raise(RuntimeError::InvalidPattern);
-    if (end > at + 1) pieces.push_back(ListPiece(pPattern.substr(at + 1, end - at - 1)));
+    if (end > at + 1) wildcards.push_back(ListWildcard(pPattern.substr(at + 1, end - at - 1)));
     at = end;
   }
-  return pieces;
+  return wildcards;
 }
 
-class PieceMatch {
+class WildcardMatch {
  public:
-  explicit PieceMatch(const LocaleRules& pRules) noexcept : rules_(pRules) {}
+  explicit WildcardMatch(const LocaleRules& pRules) noexcept : rules_(pRules) {}
 
-  bool operator()(const WildcardPiece& pPiece, char16_t pCharacter) const {
-    switch (pPiece.kind) {
-      case PieceKind::Digit:
-        return pCharacter >= u'0' && pCharacter <= u'9';
-      case PieceKind::List:
-        return IsInList({&pCharacter, 1}, pPiece.list);
-      case PieceKind::OtherThanList:
-        return !IsInList({&pCharacter, 1}, pPiece.list);
+  bool operator()(const Wildcard& pWildcard, char16_t pCharacter) const {
+    switch (pWildcard.kind) {
+      case Sought::Digit:
+        return IsDecimalDigit(pCharacter);
+      case Sought::List:
+        return IsInList({&pCharacter, 1}, pWildcard.list);
+      case Sought::OtherThanList:
+        return !IsInList({&pCharacter, 1}, pWildcard.list);
       default:
         return true;
     }
@@ -90,8 +91,8 @@ class PieceMatch {
 }  // namespace
 
 bool FitsWildcards(std::u16string_view pText, std::u16string_view pPattern, const LocaleRules& pRules) {
-  const auto isRun = [](const WildcardPiece& pPiece) { return pPiece.kind == PieceKind::Run; };
-  return os::FitsPieces(pText, PiecesOf(pPattern), isRun, PieceMatch(pRules));
+  const auto isRun = [](const Wildcard& pWildcard) { return pWildcard.kind == Sought::Run; };
+  return os::FitsWildcards(pText, WildcardsOf(pPattern), isRun, WildcardMatch(pRules));
 }
 
 }  // namespace qzbase::runtime

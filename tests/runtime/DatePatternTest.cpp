@@ -1,6 +1,8 @@
 #include <string>
+#include <utility>
 
 #include "qzbase/runtime/DatePattern.h"
+#include "qzbase/runtime/DateReader.h"
 #include "tests/support/Corpus.h"
 #include "tests/support/CorpusValue.h"
 
@@ -59,6 +61,22 @@ TEST(DatePatternTest, Patterns) {
   for (const auto& row : rows) EXPECT_EQ(Answer(date, row.pattern, "sv-SE", {}), row.expected) << ToUtf8(row.pattern);
   EXPECT_EQ(Answer(date, u"w", "sv-SE", {8, 1}), "error 5");
   EXPECT_EQ(Answer(date, u"w", "sv-SE", {1, 4}), "error 5");
+}
+
+// The system's own names; they are read beside a day and alone.
+TEST(DatePatternTest, MonthsBesideADay) {
+  const std::pair<const char*, const char16_t*> rows[] = {
+      {"cs-CZ", u"listopadu"}, {"ru-RU", u"ноября"}, {"pl-PL", u"listopada"}, {"de-DE", u"November"}};
+  for (const auto& [locale, name] : rows) {
+    const LocaleRules rules = os::NamedLocaleRules(locale);
+    EXPECT_EQ(ToUtf8(FormatDate({48180}, u"d. mmmm", rules)), ToUtf8(u"28. " + std::u16string(name)));
+    EXPECT_EQ(FormatDate({48180}, u"dddd mmmm yyyy", rules), rules.days[4] + u" " + rules.months[10] + u" 2031");
+    Date date;
+    for (const std::u16string_view pattern : {u"d mmmm yyyy", u"mmmm d, yyyy", u"d-mmm-yyyy", u"Long Date"})
+      EXPECT_TRUE(ReadDate(FormatDate({48180}, pattern, rules), date, rules) && date == Date{48180})
+          << locale << ToUtf8(pattern);
+    EXPECT_TRUE(ReadDate(FormatDate({48180}, u"mmmm yyyy", rules), date, rules) && date == Date{48153}) << locale;
+  }
 }
 
 // Weeks at both ends of years that begin on a Thursday, Friday and Saturday.

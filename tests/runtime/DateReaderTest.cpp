@@ -10,15 +10,18 @@ namespace {
 using namespace qzbase::runtime;
 
 // "2031-11-28T20:15:42", or "no date".
-std::string Read(std::u16string_view pText, std::string_view pLocale) {
+std::string Read(std::u16string_view pText, const LocaleRules& pRules) {
   Date date = {12345.5};
-  if (!ReadDate(pText, date, TestLocale(pLocale), [] { return 2026; }))
-    return date == Date{12345.5} ? "no date" : "spoiled";
+  if (!ReadDate(pText, date, pRules, [] { return 2026; })) return date == Date{12345.5} ? "no date" : "spoiled";
   const DateParts parts = SplitDate(date);
   char text[64];
   std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02d", parts.year, parts.month, parts.day, parts.hour,
                 parts.minute, parts.second);
   return text;
+}
+
+std::string Read(std::u16string_view pText, std::string_view pLocale) {
+  return Read(pText, TestLocale(pLocale));
 }
 
 TEST(DateReaderTest, TextsOfTheTable) {
@@ -58,6 +61,42 @@ TEST(DateReaderTest, Texts) {
       {u",5/,6", "en-US", "2026-05-06T00:00:00"},
   };
   for (const auto& row : rows) EXPECT_EQ(Read(row.text, row.locale), row.expected) << ToUtf8(row.text);
+}
+
+// Where one mark separates dates and times, the pictures say what a text is. Words and blanks of the pictures may be
+// left out.
+TEST(DateReaderTest, PicturesOfTheLocale) {
+  LocaleRules dots = TestLocale("de-DE");
+  dots.longTime = u"H.mm.ss";
+  dots.timeSeparator = u".";
+  LocaleRules words = TestLocale("fr-FR");
+  words.shortDate = u"yyyy. d. M. 'г'.";
+  words.longDate = u"dddd, d 'de' MMMM 'de' yyyy";
+  words.longTime = u"tt h 'h' mm 'min' ss's'";
+  words.dateSeparator = u". ";
+  words.am = u"오전";
+  words.pm = u"오후";
+  const struct {
+    const LocaleRules& rules;
+    const char16_t* text;
+    const char* expected;
+  } rows[] = {
+      {dots, u"8.05", "1899-12-30T08:05:00"},
+      {dots, u"8.5", "2026-05-08T00:00:00"},
+      {dots, u"28.11", "2026-11-28T00:00:00"},
+      {dots, u"10.11.12", "1899-12-30T10:11:12"},
+      {dots, u"28.11.31", "1931-11-28T00:00:00"},
+      {dots, u"28.11.2031, 8.15.42 pm", "2031-11-28T20:15:42"},
+      {dots, u"8.15 Freitag, 28. November 2031", "2031-11-28T08:15:00"},
+      {words, u"2031. 6. 5. г.", "2031-05-06T00:00:00"},
+      {words, u"2031.6.5.г.오후8h15min42s", "2031-05-06T20:15:42"},
+      {words, u"2031.6.5", "2031-05-06T00:00:00"},  // the order of the picture all the same
+      {words, u"6 de mai de 2031", "2031-05-06T00:00:00"},
+      {words, u"mardi, 6 mai 2031 8:15", "2031-05-06T08:15:00"},
+      {words, u"203165", "no date"},
+      {words, u"오후 13 h 15 min 42 s", "no date"},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Read(row.text, row.rules), row.expected) << ToUtf8(row.text);
 }
 
 TEST(DateReaderTest, RefusesTheRest) {
