@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "qzbase/runtime/Positions.h"
+
 namespace qzbase {
 
 using runtime::Raise;
@@ -11,10 +13,8 @@ using runtime::RuntimeError;
 
 template <class Predicate>
 std::int32_t ErrorRegistry::FindIf(Predicate pMatches) const {
-  for (std::int64_t i = First(); i <= Count(); ++i) {
-    const auto position = static_cast<std::int32_t>(i);
-    if (pMatches(errors_[position])) return position;
-  }
+  for (const std::int32_t i : runtime::Positions(First(), Count()))
+    if (pMatches(errors_[i])) return i;
   return 0;
 }
 

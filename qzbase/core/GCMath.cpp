@@ -6,7 +6,7 @@
 
 #include "qzbase/core/Arithmetic.h"
 #include "qzbase/core/ModMath.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/Convert.h"
 #include "qzbase/runtime/Locale.h"
 #include "qzbase/runtime/NumberText.h"
@@ -14,6 +14,7 @@
 namespace qzbase {
 namespace {
 
+using runtime::Attempt;
 using runtime::Raise;
 using runtime::RuntimeError;
 
@@ -31,16 +32,6 @@ bool WholePartIsDisplayed(double pValue) {
   if (!(std::abs(pValue) < 1e14 && decimals >= 0.1 && decimals <= 0.9)) return false;
   const std::u16string& delimiter = runtime::ThreadLocale().decimal;
   return delimiter == u"." || delimiter == u",";
-}
-
-// Does a step of a computation that must not fail.
-template <class Step>
-void Attempt(Step pStep) {
-  try {
-    pStep();
-  } catch (const runtime::AutomationError&) {
-    // What the step would have set stays as it was.
-  }
 }
 
 }  // namespace
@@ -92,11 +83,11 @@ double GCMath::Pow(double Bases, double Expo) {
   return Exponential(Multiply(Logarithm(Bases), Expo));
 }
 
-runtime::Variant GCMath::Max(const runtime::Variant& val1, const runtime::Variant& val2) {
+const runtime::Variant& GCMath::Max(const runtime::Variant& val1, const runtime::Variant& val2) {
   return ModMath::Max(val1, val2);
 }
 
-runtime::Variant GCMath::Min(const runtime::Variant& val1, const runtime::Variant& val2) {
+const runtime::Variant& GCMath::Min(const runtime::Variant& val1, const runtime::Variant& val2) {
   return ModMath::Min(val1, val2);
 }
 

@@ -46,8 +46,8 @@ class GCMath : public runtime::Object {
   static double Pow(double Bases, double Expo);
 
   // See ModMath.h.
-  static runtime::Variant Max(const runtime::Variant& val1, const runtime::Variant& val2);
-  static runtime::Variant Min(const runtime::Variant& val1, const runtime::Variant& val2);
+  static const runtime::Variant& Max(const runtime::Variant& val1, const runtime::Variant& val2);
+  static const runtime::Variant& Min(const runtime::Variant& val1, const runtime::Variant& val2);
 
   static void Swap(runtime::Variant& val1, runtime::Variant& val2);
 
@@ -59,8 +59,8 @@ class GCMath : public runtime::Object {
   static constexpr double PI() { return std::bit_cast<double>(std::uint64_t{0x400921FB54442D11}); }
 
   // Mean and population standard deviation. Both are the invalid double for a vector that is empty or holds an invalid
-  // double. Returns 0, or the number of the runtime error that stopped it; raises nothing.
-  static std::int32_t CalcMean(const CDblVector& pY, double& pMean, double& pAbsStdDev);
+  // double. Returns 0, or the number of the runtime error that stopped it (91 for an unset vector); raises nothing.
+  static std::int32_t CalcMean(const CDblVector* pY, double& pMean, double& pAbsStdDev);
 };
 
 }  // namespace qzbase

@@ -2,13 +2,18 @@
 #include "qzbase/core/GCMath.h"
 #include "qzbase/core/QZVarType.h"
 #include "qzbase/data/CDblVector.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
+#include "qzbase/runtime/Positions.h"
 
 namespace qzbase {
 namespace {
 
+using runtime::Positions;
+using runtime::Raise;
+using runtime::RuntimeError;
+
 bool HasInvalidValue(const CDblVector& pY) {
-  for (std::int32_t i = 1; i <= pY.Size(); ++i)
+  for (const std::int32_t i : Positions(1, pY.Size()))
     if (pY.Value(i) == kInvalidDouble) return true;
   return false;
 }
@@ -17,26 +22,25 @@ bool HasInvalidValue(const CDblVector& pY) {
 template <class Term>
 double MeanOf(const CDblVector& pY, Term pTerm) {
   double sum = 0;
-  for (std::int32_t i = 1; i <= pY.Size(); ++i) sum = Add(sum, pTerm(pY.Value(i)));
+  for (const std::int32_t i : Positions(1, pY.Size())) sum = Add(sum, pTerm(pY.Value(i)));
   return sum / pY.Size();
 }
 
 }  // namespace
 
-std::int32_t GCMath::CalcMean(const CDblVector& pY, double& pMean, double& pAbsStdDev) {
+std::int32_t GCMath::CalcMean(const CDblVector* pY, double& pMean, double& pAbsStdDev) {
   pMean = pAbsStdDev = kInvalidDouble;
-  try {
-    if (pY.Size() < 1 || HasInvalidValue(pY)) return 0;
-    pMean = MeanOf(pY, [](double pValue) { return pValue; });
+  const auto calculate = [&] {
+    if (!pY) Raise(RuntimeError::ObjectNotSet);
+    if (pY->Size() < 1 || HasInvalidValue(*pY)) return;
+    pMean = MeanOf(*pY, [](double pValue) { return pValue; });
     const double mean = pMean;
-    pAbsStdDev = SquareRoot(MeanOf(pY, [mean](double pValue) {
+    pAbsStdDev = SquareRoot(MeanOf(*pY, [mean](double pValue) {
       const double deviation = Add(mean, -pValue);
       return Multiply(deviation, deviation);
     }));
-    return 0;
-  } catch (const runtime::AutomationError& error) {
-    return error.Number();
-  }
+  };
+  return runtime::Attempt(calculate).Error();
 }
 
 }  // namespace qzbase

@@ -2,22 +2,22 @@
 
 #include <algorithm>
 #include <array>
-#include <exception>
 
 #include "qzbase/core/LocalizedText.h"
 #include "qzbase/os/MessageBox.h"
 #include "qzbase/os/ThreadSlot.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/Convert.h"
 #include "qzbase/runtime/NumberText.h"
+#include "qzbase/runtime/Positions.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase::ModError {
 namespace {
 
+using runtime::Attempt;
+using runtime::Positions;
 using runtime::Raise;
-using runtime::RuntimeError;
-using runtime::Variant;
 
 void ReportFailedRegistration(std::u16string_view pModule, std::u16string_view pID) {
   std::u16string text = u"Error register errors (";
@@ -27,12 +27,9 @@ void ReportFailedRegistration(std::u16string_view pModule, std::u16string_view p
 
 TErrIndex RegisterOrReport(ErrorRegistry& pRegistry, std::u16string_view pModule, std::u16string_view pID,
                            std::u16string_view pMsg, bool pAddInfo) {
-  try {
-    return {pRegistry.Register(pModule, pID, pMsg, pAddInfo)};
-  } catch (const std::exception&) {
-    ReportFailedRegistration(pModule, pID);
-    return {-1};
-  }
+  const auto position = Attempt([&] { return pRegistry.Register(pModule, pID, pMsg, pAddInfo); });
+  if (!position) ReportFailedRegistration(pModule, pID);
+  return {position.value_or(-1)};
 }
 
 // The state of one thread. Its making is the library's start-up on that thread.
@@ -87,6 +84,12 @@ TErrIndex IndexOf(BuiltInError pError) {
   return State().builtIn[static_cast<std::size_t>(pError)];
 }
 
+std::int32_t StatusOf(BuiltInError pError) {
+  const TErrIndex index = IndexOf(pError);
+  const std::int32_t code = Attempt([index] { return ErrCodeOf(index); }).value_or(0);
+  return code != 0 ? code : ErrorRegistry::kCodeBase + index.Value;
+}
+
 void RaiseErr(std::int32_t pErrCode, std::u16string_view pAddInfo) {
   if (pErrCode == 0) return;
   if (pAddInfo != kKeepAddInfo) SetAddErrInfo(pAddInfo);
@@ -106,31 +109,21 @@ void SetServerId(std::u16string_view pID) {
 }
 
 std::u16string ErrorMessage(std::int32_t pErrCode) {
-  try {
+  const auto text = [pErrCode] {
     if (pErrCode < ErrorRegistry::kCodeBase) return std::u16string(runtime::StandardErrorText(pErrCode));
     if (const TErrDesc* error = Registry().FindCode(pErrCode)) return RegisteredMessage(*error);
     return u"unknown error:" + runtime::NumberText(pErrCode);
-  } catch (const std::exception&) {
-    return {};
-  }
+  };
+  return Attempt(text).value_or(u"");
 }
 
 namespace {
-
-// The record that a late-bound call returned; its fields are properties.
-runtime::Object& RecordOf(const Variant& pResult) {
-  const auto* record = pResult.If<runtime::Ref<runtime::Object>>();
-  if (!record) Raise(RuntimeError::TypeMismatch);
-  if (!*record) Raise(RuntimeError::ObjectNotSet);
-  return **record;
-}
 
 // The client gets every error that it lacks, numbered in its own sequence. The count is read once: a client that works
 // on this very registry may grow it. For the same reason the entry is copied before the client is called.
 void RegisterWithClient(runtime::Object& pClient) {
   const ErrorRegistry& registry = Registry();
-  const std::int32_t count = registry.Count();
-  for (std::int32_t i = registry.First(); i <= count; ++i) {
+  for (const std::int32_t i : Positions(registry.First(), registry.Count())) {
     const TErrDesc own = registry.Entry(i);
     if (runtime::ToLong(pClient.Call(u"ErrIndex", own.Module, own.ID)) < 1)
       pClient.Call(u"RegisterError", own.Module, own.ID, own.Msg, own.AddInfo);
@@ -138,14 +131,12 @@ void RegisterWithClient(runtime::Object& pClient) {
 }
 
 void TakeClientCodes(runtime::Object& pClient) {
-  const std::int32_t count = runtime::ToLong(pClient.Call(u"NrRegisteredErrors"));
-  for (std::int32_t i = 1; i <= count; ++i) {
-    const Variant result = pClient.Get(u"EDesc", i);
-    runtime::Object& theirs = RecordOf(result);
-    const std::u16string module = runtime::ToText(theirs.Get(u"Module"));
-    const std::u16string id = runtime::ToText(theirs.Get(u"ID"));
+  for (const std::int32_t i : Positions(1, runtime::ToLong(pClient.Call(u"NrRegisteredErrors")))) {
+    const runtime::Ref<runtime::Object> theirs = runtime::ToObject(pClient.Get(u"EDesc", i));  // a record's fields
+    const std::u16string module = runtime::ToText(theirs->Get(u"Module"));
+    const std::u16string id = runtime::ToText(theirs->Get(u"ID"));
     const std::int32_t position = FindErrIndex(module, id);
-    if (position > 0) Registry().Entry(position).Code = runtime::ToLong(theirs.Get(u"Code"));
+    if (position > 0) Registry().Entry(position).Code = runtime::ToLong(theirs->Get(u"Code"));
   }
 }
 

@@ -44,6 +44,10 @@ std::int32_t ErrCodeOf(TErrIndex pIdx);
 // Where a built-in error was registered.
 TErrIndex IndexOf(BuiltInError pError);
 
+// The number of a built-in error for members that return it instead of raising it, where 0 means success. Raises
+// nothing: where a host has taken the entry away or given it the number 0, it is the number of its registration.
+std::int32_t StatusOf(BuiltInError pError);
+
 // Raises the error; 0 does nothing. The additional information is kept for `ErrorMessage` until another is set.
 void RaiseErr(std::int32_t pErrCode, std::u16string_view pAddInfo = kKeepAddInfo);
 

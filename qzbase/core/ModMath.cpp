@@ -15,11 +15,11 @@ const Variant& FirstIf(Order pWanted, const Variant& pFirst, const Variant& pSec
 
 }  // namespace
 
-Variant Max(const Variant& val1, const Variant& val2) {
+const Variant& Max(const Variant& val1, const Variant& val2) {
   return FirstIf(Order::Greater, val1, val2);
 }
 
-Variant Min(const Variant& val1, const Variant& val2) {
+const Variant& Min(const Variant& val1, const Variant& val2) {
   return FirstIf(Order::Less, val1, val2);
 }
 

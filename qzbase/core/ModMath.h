@@ -11,7 +11,7 @@
 
 namespace qzbase::ModMath {
 
-runtime::Variant Max(const runtime::Variant& val1, const runtime::Variant& val2);
-runtime::Variant Min(const runtime::Variant& val1, const runtime::Variant& val2);
+const runtime::Variant& Max(const runtime::Variant& val1, const runtime::Variant& val2);
+const runtime::Variant& Min(const runtime::Variant& val1, const runtime::Variant& val2);
 
 }  // namespace qzbase::ModMath

@@ -44,21 +44,17 @@ std::size_t SplitFields(std::u16string_view pText, std::u16string_view pFormat,
   return count;
 }
 
-struct NamedParts {
-  std::array<std::int32_t, kPartCount> value{};
-  bool hasDay = false;  // year, month or day
-};
+using PartValues = std::array<std::int32_t, kPartCount>;
 
-bool ReadParts(std::u16string_view pText, std::u16string_view pFormat, NamedParts& pParts,
+bool ReadParts(std::u16string_view pText, std::u16string_view pFormat, PartValues& pValues,
                const runtime::LocaleRules& pRules) {
   using Bounds = std::numeric_limits<std::int16_t>;
   std::array<Field, kMaxFields> fields;
   const std::size_t count = SplitFields(pText, pFormat, fields);
   for (std::size_t i = 0; i < count; ++i) {
-    std::int32_t& value = pParts.value[fields[i].part];
+    std::int32_t& value = pValues[fields[i].part];
     if (runtime::ReadNumber(fields[i].piece, value, pRules) != runtime::ReadResult::Read) return false;
     if (value < Bounds::min() || value > Bounds::max()) return false;
-    pParts.hasDay |= fields[i].part <= kDay;
   }
   return true;
 }
@@ -83,11 +79,10 @@ bool CountDays(std::int32_t pYear, std::int32_t pMonth, std::int32_t pDay, doubl
 bool ReadDateByFormat(std::u16string_view pText, std::u16string_view pFormat, Date& pDate,
                       const runtime::LocaleRules& pRules) {
   constexpr std::int32_t kSecondsPerDay = 86400;
-  NamedParts parts;
-  if (!ReadParts(pText, pFormat, parts, pRules)) return false;
-  const auto& value = parts.value;
+  PartValues value{};
+  if (!ReadParts(pText, pFormat, value, pRules)) return false;
   double days = 0;
-  if (parts.hasDay && !CountDays(value[kYear], value[kMonth], value[kDay], days)) return false;
+  if (!CountDays(value[kYear], value[kMonth], value[kDay], days)) return false;
   const std::int32_t seconds = value[kHour] * 3600 + value[kMinute] * 60 + value[kSecond];
   days += FloorDivide(seconds, kSecondsPerDay);
   if (!runtime::IsInCalendar({days})) return false;

@@ -2,14 +2,13 @@
 //
 //   "28.11.31" by "DD.MM.YY"                      28 November 2031
 //   "2031-11-28 20:15" by "yyyy-mm-dd hh:nn"      the same day, a quarter past eight in the evening
-//   "20:15" by "HH:NN"                            the time of day alone
+//   "20:15" by "HH:NN"                            that time on day 0 of month 0 of year 2000: 1999-11-30
 //
 // Every run of one of the letters Y, M, D, H, N, S (either case) is a field, and its piece of the text stands at the
 // same places as the run; six fields count. "M" is always the month. Of two fields of one letter the later holds.
 //
 // The pieces are whole numbers as users write them. A year below 1900 has 2000 added. A part that is not named is 0;
 // parts outside their bounds are carried on (month 13 is the next January, day 0 the last day of the month before).
-// Where neither year, month nor day is named there is a time only.
 #pragma once
 
 #include <string_view>

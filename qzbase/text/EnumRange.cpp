@@ -38,12 +38,6 @@ class EnumItems {
   bool more_;
 };
 
-// Raises what an array without bounds raises.
-template <class T>
-void CheckBounds(const runtime::Array<T>& pArray) {
-  static_cast<void>(pArray.LowerBound());
-}
-
 // Whether all items are single values, as far as braces and brackets tell.
 bool HoldsValues(std::u16string_view pRange) {
   return HasBraces(pRange) && pRange.find(u'[') == std::u16string_view::npos;
@@ -56,7 +50,6 @@ bool HasAsterisk(std::u16string_view pRange) {
 }  // namespace
 
 std::u16string MakeEnumRange(const runtime::Array<std::u16string>& Item, std::u16string_view FirstItem) {
-  CheckBounds(Item);
   std::u16string range;
   InitEnumRange(range);
   if (!FirstItem.empty()) range.append(FirstItem) += kDelimiter;
@@ -97,7 +90,6 @@ std::u16string EnumVal(std::int32_t ItemNr, std::u16string_view Range) {
 }
 
 std::u16string MakeValueList(const runtime::Array<double>& Value) {
-  CheckBounds(Value);
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
   std::u16string list;
   InitEnumRange(list);

@@ -17,7 +17,7 @@
 namespace qzbase::ModString {
 
 // "{" + the items, with `FirstItem` before them unless it is empty + "}". Any lower bound will do; an unallocated array
-// raises error 9.
+// has no items.
 std::u16string MakeEnumRange(const runtime::Array<std::u16string>& Item, std::u16string_view FirstItem = {});
 
 // The same step by step; between the two calls the caller appends every item and a ";".
@@ -36,7 +36,7 @@ std::u16string EnumVal(std::int32_t ItemNr, std::u16string_view Range);
 // Lists of numbers. They are written with the locale's decimal delimiter but read with "." whatever the locale, as
 // programs have come to rely on: where the delimiter is a comma, 1.5 is written as "1,5" and read back as 1.
 //
-// `MakeValueList` raises error 9 for an unallocated array. `ParseValueList` gives `Value` bounds from 1 to the number
+// An unallocated array is a list without items. `ParseValueList` gives `Value` bounds from 1 to the number
 // of items, which is the result; an item that begins with no number is 0, and without items `Value` is one 0. A number
 // too large for a double raises error 6.
 std::u16string MakeValueList(const runtime::Array<double>& Value);

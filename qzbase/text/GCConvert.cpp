@@ -4,8 +4,9 @@
 #include "qzbase/data/CVector.h"
 #include "qzbase/desc/TEntryDesc.h"
 #include "qzbase/desc/TVarDesc.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/Positions.h"
 #include "qzbase/text/NumberDelims.h"
 #include "qzbase/text/PlainNumber.h"
 #include "qzbase/text/ValueCheck.h"
@@ -27,11 +28,7 @@ double NumberOf(const Variant& pElement, const runtime::LocaleRules& pRules) {
   if (const auto* date = pElement.If<Date>()) return *date == kInvalidDate ? kInvalidDouble : date->days;
   if (const auto* text = pElement.If<std::u16string>()) return ModConvert::StringToDouble(*text, true, pRules);
   if (pElement.IsEmpty()) return kInvalidDouble;
-  try {
-    return runtime::ToDouble(pElement, pRules);
-  } catch (const runtime::AutomationError&) {
-    return kInvalidDouble;
-  }
+  return runtime::Attempt([&] { return runtime::ToDouble(pElement, pRules); }).value_or(kInvalidDouble);
 }
 
 }  // namespace
@@ -177,7 +174,8 @@ Ref<CDblVector> GCConvert::VectorToDblVector(const CVector& pVector) {
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
   Ref<CDblVector> result = runtime::New<CDblVector>();
   result->LetSize(pVector.Size());
-  for (std::int32_t i = 1; i <= pVector.Size(); ++i) result->LetValue(i, NumberOf(pVector.Value(i), rules));
+  for (const std::int32_t i : runtime::Positions(1, pVector.Size()))
+    result->LetValue(i, NumberOf(pVector.Value(i), rules));
   return result;
 }
 
@@ -185,7 +183,7 @@ Ref<CVector> GCConvert::DblVectorToVector(const CDblVector& pVector) {
   Ref<CVector> result = runtime::New<CVector>();
   result->LetVarType(EVTDouble);
   result->LetSize(pVector.Size());
-  for (std::int32_t i = 1; i <= pVector.Size(); ++i) result->LetValue(i, pVector.Value(i));
+  for (const std::int32_t i : runtime::Positions(1, pVector.Size())) result->LetValue(i, pVector.Value(i));
   return result;
 }
 

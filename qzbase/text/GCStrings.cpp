@@ -10,8 +10,6 @@
 namespace qzbase {
 namespace {
 
-constexpr std::size_t kNotFound = std::u16string_view::npos;
-
 // How many characters in front of the trailing digits.
 std::size_t RootLength(std::u16string_view pName) {
   std::size_t length = pName.size();
@@ -23,7 +21,8 @@ std::size_t RootLength(std::u16string_view pName) {
 
 std::u16string GCStrings::StripUnit(std::u16string_view VarName) {
   const std::size_t bracket = runtime::FindText(VarName, u"[");
-  return std::u16string(bracket == kNotFound ? VarName : ModString::TrimBlanks(VarName.substr(0, bracket)));
+  return std::u16string(bracket == std::u16string_view::npos ? VarName
+                                                             : ModString::TrimBlanks(VarName.substr(0, bracket)));
 }
 
 std::u16string GCStrings::FormatUnit(std::u16string_view Unit) {
@@ -41,7 +40,7 @@ std::u16string GCStrings::GetNextLine(std::u16string_view Source, std::int32_t& 
   const auto start = static_cast<std::size_t>(ActPos) - 1;
   if (start >= Source.size()) return {};
   const std::size_t end = runtime::FindText(Source, u"\r", start);
-  if (end == kNotFound) return {};
+  if (end == std::u16string_view::npos) return {};
   ActPos += static_cast<std::int32_t>(end - start) + 1;
   return std::u16string(Source.substr(start, end - start));
 }

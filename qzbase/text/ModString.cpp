@@ -7,11 +7,9 @@ namespace qzbase::ModString {
 
 namespace {
 
-constexpr std::size_t kNotFound = std::u16string_view::npos;
-
 // The platform's search: nothing is found from the end of the text on, not even an empty text.
 std::size_t Find(std::u16string_view pText, std::u16string_view pSought, std::size_t pStart) {
-  return pStart < pText.size() ? pText.find(pSought, pStart) : kNotFound;
+  return pStart < pText.size() ? pText.find(pSought, pStart) : std::u16string_view::npos;
 }
 
 }  // namespace
@@ -23,7 +21,7 @@ std::int32_t SplitList(std::u16string_view pSource, std::u16string_view pDelim,
   // Collected aside: the source may be one of the items that are to be replaced.
   std::vector<std::u16string> items;
   std::size_t start = 0;
-  for (std::size_t at = Find(pSource, pDelim, 0); at != kNotFound; at = Find(pSource, pDelim, start)) {
+  for (std::size_t at = Find(pSource, pDelim, 0); at != std::u16string_view::npos; at = Find(pSource, pDelim, start)) {
     items.emplace_back(pSource.substr(start, at - start));
     start = at + 1;
   }
@@ -40,8 +38,8 @@ std::u16string TakeToken(std::u16string& pSource, std::u16string_view pDelim) {
 }
 
 std::u16string_view TakeToken(std::u16string_view& pSource, std::u16string_view pDelim) {
-  const std::size_t at = pDelim.empty() ? kNotFound : pSource.find(pDelim);
-  if (at == kNotFound) return std::exchange(pSource, {});
+  const std::size_t at = pDelim.empty() ? std::u16string_view::npos : pSource.find(pDelim);
+  if (at == std::u16string_view::npos) return std::exchange(pSource, {});
   const std::u16string_view token = pSource.substr(0, at);
   pSource.remove_prefix(at + pDelim.size());
   return token;
@@ -49,7 +47,8 @@ std::u16string_view TakeToken(std::u16string_view& pSource, std::u16string_view 
 
 std::u16string_view TrimBlanks(std::u16string_view pText) {
   const std::size_t first = pText.find_first_not_of(u' ');
-  return first == kNotFound ? std::u16string_view() : pText.substr(first, pText.find_last_not_of(u' ') - first + 1);
+  return first == std::u16string_view::npos ? std::u16string_view()
+                                            : pText.substr(first, pText.find_last_not_of(u' ') - first + 1);
 }
 
 std::u16string ReplaceAll(std::u16string_view pSource, std::u16string_view pOld, std::u16string_view pNew) {
@@ -57,7 +56,7 @@ std::u16string ReplaceAll(std::u16string_view pSource, std::u16string_view pOld,
 
   std::u16string result;
   std::size_t start = 0;
-  for (std::size_t at = pSource.find(pOld); at != kNotFound; at = pSource.find(pOld, start)) {
+  for (std::size_t at = pSource.find(pOld); at != std::u16string_view::npos; at = pSource.find(pOld, start)) {
     result.append(pSource, start, at - start).append(pNew);
     start = at + pOld.size();
   }

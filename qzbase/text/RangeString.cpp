@@ -5,7 +5,7 @@
 #include "qzbase/core/Arithmetic.h"
 #include "qzbase/core/LocalizedText.h"
 #include "qzbase/core/ModError.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/NumberText.h"
 #include "qzbase/runtime/ShownNumber.h"
 #include "qzbase/runtime/TextCompare.h"
@@ -76,12 +76,7 @@ bool IsValidRange(std::u16string_view pRange) {
 
 // A number in a range or step; false where it is too large for one.
 bool ReadBound(std::u16string_view pText, double& pNumber) {
-  try {
-    pNumber = runtime::LeadingNumber(pText);
-    return true;
-  } catch (const runtime::AutomationError&) {
-    return false;
-  }
+  return static_cast<bool>(runtime::Attempt([&] { pNumber = runtime::LeadingNumber(pText); }));
 }
 
 // A translated word that stands between two values.
@@ -92,7 +87,7 @@ std::u16string Between(std::u16string_view pKey) {
 }  // namespace
 
 std::int32_t CheckRangeStringValid(std::u16string_view Range) {
-  return IsValidRange(TrimBlanks(Range)) ? 0 : ModError::ErrCodeOf(ModError::IndexOf(BuiltInError::InvRangeString));
+  return IsValidRange(TrimBlanks(Range)) ? 0 : ModError::StatusOf(BuiltInError::InvRangeString);
 }
 
 std::u16string HumanReadable(std::u16string_view Range) {

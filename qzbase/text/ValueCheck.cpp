@@ -3,6 +3,7 @@
 #include "qzbase/text/ValueCheck.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <string>
 
@@ -22,8 +23,6 @@ using ModError::RaiseBuiltIn;
 using runtime::LocaleRules;
 using runtime::ReadResult;
 
-constexpr std::size_t kNotFound = std::u16string_view::npos;
-
 // Whether the text says that there is no value, and that is allowed; raises where it is not.
 bool IsNoValue(std::u16string_view pValue, bool pAllowInvalid) {
   if (pValue != kInvalidString) return false;
@@ -32,31 +31,63 @@ bool IsNoValue(std::u16string_view pValue, bool pAllowInvalid) {
 }
 
 bool Holds(std::u16string_view pText, std::u16string_view pDelimiter) {
-  return !pDelimiter.empty() && pText.find(pDelimiter) != kNotFound;
+  return !pDelimiter.empty() && pText.find(pDelimiter) != std::u16string_view::npos;
 }
 
 bool HoldsText(std::u16string_view pText, std::u16string_view pSought, const LocaleRules& pRules) {
-  return runtime::FindText(pText, pSought, 0, pRules) != kNotFound;
+  return runtime::FindText(pText, pSought, 0, pRules) != std::u16string_view::npos;
+}
+
+// The text without the currency, whose own marks ("kr.") delimit nothing.
+struct NumberPieces {
+  NumberPieces(std::u16string_view pText, const LocaleRules& pRules) : front(pText) {
+    const std::size_t at = pRules.currency.empty() ? std::u16string_view::npos : pText.find(pRules.currency);
+    if (at == std::u16string_view::npos) return;
+    front = pText.substr(0, at);
+    back = pText.substr(at + pRules.currency.size());
+  }
+
+  bool Hold(std::u16string_view pDelimiter) const { return Holds(front, pDelimiter) || Holds(back, pDelimiter); }
+
+  std::u16string_view front;
+  std::u16string_view back;
+};
+
+// Whether the delimiter of thousands stands in a number, or that of money. One that is the decimal delimiter groups
+// nothing.
+bool IsGrouped(const NumberPieces& pNumber, const LocaleRules& pRules) {
+  const auto groups = [&](std::u16string_view pDelimiter) {
+    return pNumber.Hold(pDelimiter) && !runtime::EqualText(pDelimiter, WindowsDecimalDelim(pRules), pRules);
+  };
+  return groups(WindowsThousandDelim(pRules)) || groups(pRules.monetaryThousands);
 }
 
 double CheckedDouble(std::u16string_view pValue, bool pLocalized, const LocaleRules& pRules) {
   ShortText room;
   const std::u16string_view text = LocalizedNumber(pValue, pLocalized, room, pRules);
-  const std::u16string_view thousands = WindowsThousandDelim(pRules);
-  if (Holds(text, thousands) && !runtime::EqualText(thousands, WindowsDecimalDelim(pRules), pRules))
-    RaiseBuiltIn(BuiltInError::InvFormat);
+  if (IsGrouped({text, pRules}, pRules)) RaiseBuiltIn(BuiltInError::InvFormat);
   double number = 0;
   if (runtime::ReadNumber(text, number, pRules) == ReadResult::Read) return number;
   RaiseBuiltIn(BuiltInError::InvFormat);
   return runtime::TextToDouble(text, pRules);
 }
 
+// The number is judged as it stands, before it is rounded.
+bool ReadWholeNumber(std::u16string_view pValue, std::int32_t& pNumber, const LocaleRules& pRules) {
+  constexpr double kMost = std::numeric_limits<std::int32_t>::max();
+  const NumberPieces pieces(pValue, pRules);
+  for (const std::u16string_view delimiter :
+       {WindowsThousandDelim(pRules), WindowsDecimalDelim(pRules), std::u16string_view(pRules.monetaryThousands),
+        std::u16string_view(pRules.monetaryDecimal)})
+    if (pieces.Hold(delimiter)) return false;
+  double number = 0;
+  return runtime::ReadNumber(pValue, number, pRules) == ReadResult::Read && std::fabs(number) <= kMost &&
+         runtime::ReadNumber(pValue, pNumber, pRules) == ReadResult::Read;
+}
+
 std::int32_t CheckedLong(std::u16string_view pValue, const LocaleRules& pRules) {
   std::int32_t number = 0;
-  if (!Holds(pValue, WindowsThousandDelim(pRules)) && !Holds(pValue, WindowsDecimalDelim(pRules)) &&
-      runtime::ReadNumber(pValue, number, pRules) == ReadResult::Read &&
-      number != std::numeric_limits<std::int32_t>::min())
-    return number;
+  if (ReadWholeNumber(pValue, number, pRules)) return number;
   RaiseBuiltIn(BuiltInError::InvFormat);
   return runtime::TextToLong(pValue, pRules);
 }
@@ -71,13 +102,15 @@ void CheckDateText(std::u16string_view pValue, const LocaleRules& pRules) {
 // "[0;1] 'auto'" names the value "auto".
 bool IsNamed(std::u16string_view pValue, std::u16string_view pRange, const LocaleRules& pRules) {
   constexpr std::u16string_view kQuote = u"'";
-  if (pRange.find(kQuote) == kNotFound) return false;
+  if (pRange.find(kQuote) == std::u16string_view::npos) return false;
   ShortText name;
   return HoldsText(pRange, name.Append(kQuote).Append(pValue).Append(kQuote).Text(), pRules);
 }
 
 bool IsTextAllowed(std::u16string_view pValue, std::u16string_view pRange, const LocaleRules& pRules) {
-  if (pRange.empty() || pRange.find(u"{*") != kNotFound || pRange.find(u"*}") != kNotFound) return true;
+  if (pRange.empty() || pRange.find(u"{*") != std::u16string_view::npos ||
+      pRange.find(u"*}") != std::u16string_view::npos)
+    return true;
   return !pValue.empty() && (pRange == u"*" || HoldsText(pRange, pValue, pRules));
 }
 
@@ -133,8 +166,7 @@ void CheckValue(std::u16string_view pValue, QZVarType pVarType, std::u16string_v
 }
 
 std::int32_t CheckNrOutFormat(std::u16string_view pFormat) {
-  if (pFormat.find(u',') == kNotFound) return 0;
-  return ModError::ErrCodeOf(ModError::IndexOf(BuiltInError::InvOutFormat));
+  return pFormat.find(u',') == std::u16string_view::npos ? 0 : ModError::StatusOf(BuiltInError::InvOutFormat);
 }
 
 bool IsBooleanRange(std::u16string_view pRange) {

@@ -10,7 +10,7 @@
 //   CheckValue(u"auto", EVTDouble, u"[0;1] 'auto'", u"")     returns: a value that the range names in quotes
 //   CheckValue(u"medium", EVTString, u"{Low;Medium}", u"")   returns
 //
-// Numbers have the locale's delimiters; in texts that are not localised "." is the decimal one.
+// Numbers have the locale's delimiters, of money too; in texts that are not localised "." is the decimal one.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ namespace qzbase::ModConvert {
 void CheckDouble(std::u16string_view pValue, bool pAllowInvalid = true, bool pLocalized = true,
                  const runtime::LocaleRules& pRules = runtime::ThreadLocale());
 
-// From -2147483647 to 2147483647 and without delimiters: the lowest 32-bit number is not taken.
+// From -2147483647 to 2147483647 before rounding and without delimiters: the lowest 32-bit number is not taken.
 void CheckLong(std::u16string_view pValue, bool pAllowInvalid = true,
                const runtime::LocaleRules& pRules = runtime::ThreadLocale());
 

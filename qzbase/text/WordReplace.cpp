@@ -3,24 +3,19 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "qzbase/runtime/Characters.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase {
 namespace {
 
-constexpr std::size_t kNotFound = std::u16string_view::npos;
-
 std::size_t Find(std::u16string_view pText, std::u16string_view pSought, std::size_t pStart) {
-  return pStart < pText.size() ? runtime::FindText(pText, pSought, pStart) : kNotFound;
+  return pStart < pText.size() ? runtime::FindText(pText, pSought, pStart) : std::u16string_view::npos;
 }
 
 bool BelongsToWord(char16_t pCharacter) {
   const std::u16string_view text(&pCharacter, 1);
   return runtime::CompareText(text, u"A") >= 0 && runtime::CompareText(text, u"z") <= 0;
-}
-
-bool IsDigit(char16_t pCharacter) {
-  return pCharacter >= u'0' && pCharacter <= u'9';
 }
 
 // An expression while words in it are replaced: what is done, followed by what is left of the source. Positions count
@@ -52,7 +47,7 @@ class WordReplacement {
     if (search_ < done_.size() && (FindAcross() || FindBeforeLast())) return true;
     const std::size_t start = std::max(search_, done_.size());
     found_ = Find(left_, old_, start - done_.size());
-    if (found_ == kNotFound) return false;
+    if (found_ == std::u16string_view::npos) return false;
     found_ += done_.size();
     return true;
   }
@@ -64,7 +59,7 @@ class WordReplacement {
     std::u16string seam = done_.substr(first);
     seam.append(left_.substr(0, overlap));
     const std::size_t at = Find(seam, old_, 0);
-    if (at == kNotFound) return false;
+    if (at == std::u16string_view::npos) return false;
     found_ = first + at;
     return true;
   }
@@ -126,11 +121,13 @@ std::u16string ReplaceNumberDelimiter(std::u16string_view pSource, std::u16strin
   std::u16string result;
   std::size_t copied = 0;  // characters of the source that are in the result or replaced
   std::size_t search = 0;
-  for (std::size_t at = Find(pSource, pOld, 0); at != kNotFound; at = Find(pSource, pOld, search)) {
+  for (std::size_t at = Find(pSource, pOld, 0); at != std::u16string_view::npos; at = Find(pSource, pOld, search)) {
     search = at + 1;
     result.append(pSource.substr(copied, at - copied));
     copied = at;
-    if (result.empty() || !IsDigit(result.back()) || search >= pSource.size() || !IsDigit(pSource[search])) continue;
+    if (result.empty() || !runtime::IsDecimalDigit(result.back()) || search >= pSource.size() ||
+        !runtime::IsDecimalDigit(pSource[search]))
+      continue;
     result.append(pNew);
     copied = at + 1;
     if (pNew.empty()) ++search;  // the following character has moved to where the delimiter was

@@ -1,3 +1,4 @@
+#include <limits>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -70,6 +71,18 @@ TEST(ErrorSynch, GivesBothSidesTheNumbersOfTheClient) {
     EXPECT_EQ(GCError::ErrorMessage(1002), u"User interrupt");
     EXPECT_EQ(GCError::ErrorMessage(1001), u"unknown error:1001");
     EXPECT_EQ(ErrorOf([] { ModError::RaiseBuiltIn(BuiltInError::Stop); }), 1002);
+  }).join();
+}
+
+TEST(ErrorSynch, WalksARegistryAtTheEndOf32Bits) {
+  std::thread([] {
+    Client client;
+    client.registry.Register(u"M", u"b", u"", false);
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    GCError::SetErrors(runtime::Array<TErrDesc>(kMost - 1, {{1, u"a", u"M", u"", false}, {2, u"b", u"M", u"", false}}));
+    GCError::SynchErrors(client);
+    EXPECT_EQ(GCError::EDesc(kMost - 1).Code, 1002);
+    EXPECT_EQ(GCError::EDesc(kMost).Code, 1001);
   }).join();
 }
 

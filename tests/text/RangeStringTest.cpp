@@ -43,8 +43,8 @@ TEST_F(Ranges, EnumerationsAreMadeAndRead) {
   EXPECT_EQ(ModString::EnumOrd(u"", u"{}"), -1);
 
   EXPECT_EQ(ModString::MakeEnumRange(Array<std::u16string>(-3, {u"x", u"y;"}), u"none"), u"{none;x;y;}");
-  EXPECT_EQ(ModString::MakeEnumRange(Array<std::u16string>(1, 0)), u"{}");
-  EXPECT_EQ(ErrorOf([] { ModString::MakeEnumRange({}); }), kSubscript);
+  for (const auto& empty : {Array<std::u16string>(1, 0), Array<std::u16string>()})
+    EXPECT_EQ(ModString::MakeEnumRange(empty) + ModString::MakeEnumRange(empty, u"none"), u"{}{none}");
 }
 
 TEST_F(Ranges, NumbersAreListedForTheUserAndReadWithoutALocale) {
@@ -56,6 +56,7 @@ TEST_F(Ranges, NumbersAreListedForTheUserAndReadWithoutALocale) {
   EXPECT_EQ(values, Array<double>(1, {1, 2.5, 0, 0}));
   EXPECT_EQ(ModString::ParseValueList(u"{}", values), 0);
   EXPECT_EQ(values, Array<double>(1, 1));
+  EXPECT_EQ(ModString::MakeValueList({}), u"{}");
 }
 
 TEST_F(Ranges, KindsAndMembers) {
