@@ -9,6 +9,7 @@
 #include "qzbase/persist/Crc.h"
 #include "qzbase/runtime/CheckedNarrow.h"
 #include "qzbase/runtime/Convert.h"
+#include "qzbase/runtime/Demand.h"
 #include "qzbase/runtime/Memory.h"
 
 namespace qzbase {
@@ -100,14 +101,19 @@ void CBuffer::GrowBy(std::int32_t pCount) {
 }
 
 void CBuffer::Trim() {
-  bytes_.resize(static_cast<std::size_t>(size_) + 1);
+  CutToSize();
   bytes_.shrink_to_fit();
+}
+
+// What a cursor behind the data has written there is gone, and does not come back when the buffer grows.
+void CBuffer::CutToSize() const {
+  bytes_.resize(static_cast<std::size_t>(size_) + 1);
   capacity_ = size_;
 }
 
 Array<std::uint8_t> CBuffer::ByteArray() const {
-  capacity_ = size_;
-  return {0, CopyOf(std::span(bytes_).first(static_cast<std::size_t>(size_) + 1))};
+  CutToSize();
+  return {0, CopyOf(bytes_)};
 }
 
 void CBuffer::LetByteArray(const Array<std::uint8_t>& pBytes) {
@@ -155,8 +161,9 @@ std::int32_t CBuffer::CheckSum() const noexcept {
 
 bool CBuffer::BinaryEqual(const CBuffer& pBuffer) const {
   if (size_ != pBuffer.size_) return false;
-  capacity_ = pBuffer.capacity_ = size_;
-  return std::equal(bytes_.begin() + 1, bytes_.begin() + size_ + 1, pBuffer.bytes_.begin() + 1);
+  CutToSize();
+  pBuffer.CutToSize();
+  return std::equal(bytes_.begin() + 1, bytes_.end(), pBuffer.bytes_.begin() + 1);
 }
 
 // Records of variable size
@@ -184,6 +191,24 @@ void CBuffer::AddData(const Array<std::uint8_t>& Arg) {
 void CBuffer::AddString(std::u16string_view Arg) {
   const std::int32_t index = BeginCounted(RecordMarker::String, Arg.size() * sizeof(char16_t));
   cursor_ = AddWideStringToBuff(bytes_.data(), index, Arg);
+}
+
+void CBuffer::ExpectRecords(std::int32_t pCount, std::int32_t pLeastBytes) const {
+  CheckedNarrow<std::int32_t>(std::int64_t{size_} + std::int64_t{pCount} * pLeastBytes);
+}
+
+// As many as fit at a time, so that the capacity grows as it does for one record after the other.
+void CBuffer::RepeatRecord(std::int32_t pLength, std::int32_t pTimes) {
+  ExpectRecords(pTimes, pLength);
+  runtime::CheckDemand(pTimes, static_cast<std::size_t>(pLength));
+  if (pLength < 1) return;
+  while (pTimes > 0) {
+    const std::int32_t fitting = std::clamp((capacity_ - size_) / pLength, 1, pTimes);
+    ReserveSpace(fitting * pLength);
+    for (const std::int32_t end = cursor_ + fitting * pLength; cursor_ < end; ++cursor_)
+      bytes_[static_cast<std::size_t>(cursor_)] = bytes_[static_cast<std::size_t>(cursor_ - pLength)];
+    pTimes -= fitting;
+  }
 }
 
 // The byte at the cursor; 0 at the end of the data.

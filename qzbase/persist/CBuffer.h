@@ -74,6 +74,12 @@ class CBuffer final : public runtime::Object {
   // Nothing is written for objects and for values without a type. Raises the errors of the conversion.
   void AddObject(const runtime::Variant& Value, QZVarType VarType = EVTInvalid);
 
+  // For lists whose elements are the same as far as the eye can see. The first raises error 6 where so many records of
+  // at least so many bytes cannot be added; the second writes the last bytes before the cursor so many times more, and
+  // raises 6 or 7 (Demand.h) before it writes.
+  void ExpectRecords(std::int32_t pCount, std::int32_t pLeastBytes) const;
+  void RepeatRecord(std::int32_t pLength, std::int32_t pTimes);
+
   std::u16string NextTag();
   runtime::Array<std::uint8_t> NextData();  // 0 to n - 1; from an untyped buffer 0 to n, the last byte zero
   std::u16string NextString();
@@ -89,7 +95,8 @@ class CBuffer final : public runtime::Object {
   runtime::Variant NextObject(QZVarType VarType = EVTInvalid);
 
   // `NextLong` for the number of elements of a container. Only a number above the bytes left is doubted: then each
-  // element counts `pLeastBytes`, which elements that are far bigger than one byte once they are made must say.
+  // element counts `pLeastBytes`, which elements that are far bigger than one byte once they are made must say, and
+  // those that have no bytes.
   std::int32_t NextCount(std::int32_t pLeastBytes = 1);
 
   void ResetPos() { ReadHeader(); }                     // to the first record
@@ -106,7 +113,7 @@ class CBuffer final : public runtime::Object {
   std::u16string GetString();
 
   // Bounds 0 to `Size`: one byte more than the data, so that the upper bound, which the let takes for the size, gives
-  // the same size again. Trims the capacity; memory is given back by `Trim` alone.
+  // the same size again. Forgets what stands behind the data and trims the capacity; `Trim` gives back the memory too.
   runtime::Array<std::uint8_t> ByteArray() const;
   void LetByteArray(const runtime::Array<std::uint8_t>& pBytes);  // error 9 where there is no byte 0
 
@@ -139,11 +146,12 @@ class CBuffer final : public runtime::Object {
   std::int32_t NextTextLength();
   std::uint8_t ReadHeader() noexcept;
 
+  void CutToSize() const;
   void Adopt(std::vector<std::uint8_t> pBytes);
   bool AppendNextItem(std::u16string& pText);
 
-  std::vector<std::uint8_t> bytes_;    // at least size_ + 1 bytes, zero behind what was written
-  mutable std::int32_t capacity_ = 0;  // bookkeeping only: handing out the bytes trims it
+  mutable std::vector<std::uint8_t> bytes_;  // at least size_ + 1 bytes, zero behind what was written
+  mutable std::int32_t capacity_ = 0;        // bookkeeping only: handing out the bytes trims both
   std::int32_t size_ = 0;
   std::int32_t cursor_ = 0;  // next byte to read or write
   bool typed_ = true;

@@ -98,9 +98,7 @@ Ref<CBuffer> GetBuffer(TRegKey pRoot, std::u16string_view pSection, std::u16stri
 
 std::int32_t SaveValue(TRegKey pRoot, std::u16string_view pSection, std::u16string_view pKey,
                        const runtime::Variant& pValue) {
-  const RegistryValue value = Stored(pValue);
-  if (value.kind == RegistryKind::None) return CreateNewSection(pRoot, pSection);
-  return NumberOf(Write(pRoot, pSection, pKey, value));
+  return NumberOf(Write(pRoot, pSection, pKey, Stored(pValue)));
 }
 
 runtime::Variant GetValue(TRegKey pRoot, std::u16string_view pSection, std::u16string_view pKey) {

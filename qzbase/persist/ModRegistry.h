@@ -11,10 +11,10 @@
 //
 //   a buffer        kind 3    its bytes, header included
 //   a number        kind 4    32 bits
-//   a text          kind 1    8-bit text without a final zero
+//   a text          kind 1    8-bit text with a final zero
 //
-// Texts are read as the platform writes them, with a final zero, which is dropped: so a text that was saved here loses
-// its last character, unless it has but one or ends with a zero character of its own.
+// Reading drops the last character of a text that has more than one, as its final zero: a text that another program has
+// stored without one loses a character of its own, and so does one whose own last character is a zero.
 #pragma once
 
 #include <cstdint>

@@ -1,15 +1,21 @@
 #include "qzbase/persist/Record.h"
 
-#include "qzbase/runtime/NumberText.h"
+#include <algorithm>
+#include <limits>
 
 namespace qzbase {
 
-// Foreign tags say anything: what is no version counts as none.
+// Foreign tags say anything: digits beyond the greatest version leave it at that.
 std::int32_t TagVersion(std::u16string_view pTag) {
-  constexpr std::size_t kLongestVersion = 9;
+  constexpr std::int32_t kGreatest = std::numeric_limits<std::int32_t>::max();
   const std::size_t mark = pTag.find(u'#');
   if (mark == std::u16string_view::npos) return 0;
-  return static_cast<std::int32_t>(runtime::LeadingNumber(pTag.substr(mark + 1, kLongestVersion)));
+  std::int64_t version = 0;
+  for (const char16_t digit : pTag.substr(mark + 1)) {
+    if (digit < u'0' || digit > u'9') break;
+    version = std::min<std::int64_t>(10 * version + (digit - u'0'), kGreatest);
+  }
+  return static_cast<std::int32_t>(version);
 }
 
 }  // namespace qzbase

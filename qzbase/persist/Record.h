@@ -13,8 +13,9 @@
 //   CopyFields(*this, pSource, kFields);
 //   EqualFields(*this, pCompare, kFields);    texts by text comparison; stops at the first difference
 //
-// A field whose record is not the one of its type is wrapped: `AsColor(&TLabelStyle::ForeColor)`. Arrays save their
-// elements one by one. A structure is a field too, where its own fields are said as its block:
+// A type whose assignment is more than its `=`, or whose equality more than its `==`, has a `CopyField` or `EqualField`
+// of its own. A field whose record is not the one of its type is wrapped: `AsColor(&TLabelStyle::ForeColor)`. Arrays
+// save their elements one by one. A structure is a field too, where its own fields are said as its block:
 //
 //   template <>
 //   inline constexpr auto blockOf<TCurveStyle> = Block(u"Style#1", Fields(&TCurveStyle::Color, ...));
@@ -59,7 +60,7 @@ void LoadRecord(CBuffer* pBuffer, bool pAppend, Body pBody) {
   pBuffer->NextTag();
 }
 
-// The whole number behind the first "#" of a tag, 0 where there is none.
+// The digits behind the first "#" of a tag, 0 where there are none; numbers beyond 32 bits are the greatest of them.
 std::int32_t TagVersion(std::u16string_view pTag);
 
 // ---- One field.
@@ -113,6 +114,11 @@ inline bool EqualField(const std::u16string& pLeft, const std::u16string& pRight
 template <class T>
 bool EqualField(const T& pLeft, const T& pRight) {
   return pLeft == pRight;
+}
+
+template <class T>
+void CopyField(T& pTo, const T& pFrom) {
+  pTo = pFrom;
 }
 
 // ---- Fields with records of their own.
@@ -239,8 +245,9 @@ void LoadFields(CBuffer& pBuffer, Owner& pOwner, const std::tuple<Field...>& pFi
 
 template <class Owner, class... Field>
 void CopyFields(Owner& pTo, const Owner& pFrom, const std::tuple<Field...>& pFields) {
-  std::apply([&](const auto&... field) { ((detail::FieldOf(pTo, field) = detail::FieldOf(pFrom, field)), ...); },
-             pFields);
+  std::apply(
+      [&](const auto&... field) { (CopyField(detail::FieldOf(pTo, field), detail::FieldOf(pFrom, field)), ...); },
+      pFields);
 }
 
 template <class Owner, class... Field>

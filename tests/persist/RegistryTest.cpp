@@ -55,11 +55,11 @@ TEST_F(Registry, KeepsNumbersAndTexts) {
   } rows[] = {
       {std::int16_t{-2}, "4: FE FF FF FF", "I4:-2"},
       {258, "4: 02 01 00 00", "I4:258"},
-      {u"abc", "1: 61 62 63", "BSTR:ab"},  // the last character stands where the platform has a zero
+      {u"abc", "1: 61 62 63 00", "BSTR:abc"},
       {std::u16string_view(u"abc\0", 4), "1: 61 62 63 00", "BSTR:abc"},
-      {u"a", "1: 61", "BSTR:a"},
+      {u"a", "1: 61 00", "BSTR:a"},
       {u"", "1: ", "BSTR:"},
-      {u"a\u4E2Db", "1: 61 3F 62", "BSTR:a?"},
+      {u"a\u4E2Db", "1: 61 3F 62 00", "BSTR:a?b"},
       {1.5, "result 2", "EMPTY"},
       {true, "result 2", "EMPTY"},
   };
@@ -73,6 +73,10 @@ TEST_F(Registry, KeepsNumbersAndTexts) {
   EXPECT_EQ(Shown(u"Key"), "EMPTY");
   Store("Key", RegistryKind::Number, "01 02");  // as another program may have written it
   EXPECT_EQ(Shown(u"Key"), "I4:513");
+  for (const auto& [text, read] : {std::pair("abc", "BSTR:ab"), std::pair("a", "BSTR:a")}) {
+    ScratchStore::StoreUnended(bytes_, "Key", text);
+    EXPECT_EQ(Shown(u"Key"), read);
+  }
 }
 
 TEST_F(Registry, KeepsBuffers) {

@@ -17,6 +17,9 @@ class ScratchStore {
 
   const std::filesystem::path& Folder() const { return folder_.Path(); }
 
+  // A text in the user's root as other programs may store it, without a final zero.
+  static void StoreUnended(const std::string& pSection, const std::string& pKey, const std::string& pText);
+
   static inline const std::u16string kSection = u"Software\\QZBase scratch";
 
  private:

@@ -24,7 +24,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // The platform's results.
-constexpr std::int32_t kNotFound = 2, kAccessDenied = 5, kNoRoot = 6, kBadPathName = 161, kCorrupt = 1015;
+constexpr std::int32_t kNoFile = 2, kAccessDenied = 5, kNoRoot = 6, kBadPathName = 161, kCorrupt = 1015;
 
 std::int32_t Save(std::int32_t pRoot, std::u16string_view pKey, std::int32_t pValue) {
   return GCRegistry::REGSaveValue(TRegKey(pRoot), u"Software\\App", pKey, pValue);
@@ -46,7 +46,7 @@ class RegistryFile : public testing::Test {
 
 TEST_F(RegistryFile, EveryRootHasItsOwn) {
   EXPECT_EQ(Get(HKEY_CURRENT_USER, u"Key"), 0);
-  EXPECT_EQ(Delete(HKEY_CURRENT_USER), kNotFound);
+  EXPECT_EQ(Delete(HKEY_CURRENT_USER), kNoFile);
   EXPECT_TRUE(fs::is_empty(store_.Folder())) << "only writing makes files";
   const std::int32_t results[] = {0, 0, 0, 0, kNoRoot, 0, kNoRoot, kNoRoot};
   for (std::int32_t root = 0; root < 8; ++root) EXPECT_EQ(Save(root, u"\u017E", root + 1), results[root]) << root;
