@@ -1,4 +1,5 @@
-// The recogniser of dates: no text may crash it, and what it reads lies in the calendar and can be written.
+// The recogniser of dates: no text may crash it, and what it reads lies in the calendar, and what is written
+// for it reads back equal.
 #include "fuzz/Expect.h"
 #include "fuzz/Input.h"
 #include "qzbase/runtime/DateReader.h"
@@ -12,6 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t pSi
   runtime::Date date;
   if (!runtime::ReadDate(input.TakeText(pSize), date, rules)) return 0;
   fuzz::Require(date.days > runtime::kFirstDate - 1 && date.days < runtime::kLastDate);
-  fuzz::Require(!runtime::DateText(date, rules).empty());
+  runtime::Date again;
+  fuzz::Require(runtime::ReadDate(runtime::DateText(date, rules), again, rules) && again == date);
   return 0;
 }

@@ -64,8 +64,9 @@ class Input {
   std::size_t left_;
 };
 
-// Two sets of rules that differ in everything a recogniser looks at; and the second with "." between thousands, so that
-// each of the two delimiters of numbers is the other one of the first.
+// Two sets of rules that differ in everything a recogniser looks at; and the second with "." between thousands and in
+// times, so that each of the two delimiters of numbers is the other one of the first, and a "." may belong to a date or
+// a time.
 inline const os::LocaleRules& ChooseLocale(std::uint8_t pChoice) {
   static const os::LocaleRules invariant;
   static const os::LocaleRules comma = [] {
@@ -77,14 +78,14 @@ inline const os::LocaleRules& ChooseLocale(std::uint8_t pChoice) {
     rules.positiveCurrency = 3;
     rules.dateSeparator = u".";
     rules.shortDate = u"d.M.yyyy";
-    rules.dateOrder = os::DateOrder::DayMonthYear;
     rules.months[11] = u"d\u00E9cembre";
     rules.shortMonths[11] = u"d\u00E9c.";
     return rules;
   }();
   static const os::LocaleRules crossed = [] {
     os::LocaleRules rules = comma;
-    rules.thousands = rules.monetaryThousands = u".";
+    rules.thousands = rules.monetaryThousands = rules.timeSeparator = u".";
+    rules.longTime = u"H.mm.ss";
     return rules;
   }();
   return pChoice % 2 == 0 ? invariant : pChoice % 4 == 3 ? crossed : comma;

@@ -1,7 +1,9 @@
 // A vector that grows in blocks and sorts: every one but CBoolVector. `Base` is its ElementVector or TypedVector.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <span>
 
 #include "qzbase/data/TypedVector.h"
 #include "qzbase/data/VectorSort.h"
@@ -20,7 +22,11 @@ class BlockVector : public Base {
 
   // VectorSort.h says where what comes to stand.
   void Sort(bool pAscending = true) {
-    runtime::WithMemory([&] { SortElements(this->storage_.Elements(), pAscending); });
+    runtime::WithMemory([&] {
+      auto& storage = this->storage_;
+      SortElements(storage.FirstSlots(SlotsToSort(storage, storage.Size(), pAscending)), pAscending);
+      storage.CheckCount(storage.Size());
+    });
   }
 };
 

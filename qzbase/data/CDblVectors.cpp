@@ -1,25 +1,14 @@
 #include "qzbase/data/CDblVectors.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <utility>
 
 #include "qzbase/persist/Record.h"
 #include "qzbase/runtime/CheckedNarrow.h"
-#include "qzbase/runtime/Memory.h"
 
 namespace qzbase {
 namespace {
 
-constexpr std::int32_t kLeastRecord = 4;  // the size of an empty vector, in a buffer without markers
-
-runtime::Ref<CDblVector> NewVector(std::int32_t pBlockSize) {
-  return runtime::WithMemory([&] {
-    auto vector = runtime::New<CDblVector>();
-    vector->LetBlockSize(pBlockSize);
-    return vector;
-  });
-}
+constexpr std::int32_t kLeastVectorRecord = 4;  // the size of an empty vector, in a buffer without markers
 
 }  // namespace
 
@@ -30,18 +19,11 @@ CDblVector& CDblVectors::Stored(std::int32_t pIdx) const {
 }
 
 void CDblVectors::LetSize(std::int32_t pSize) {
-  filled_ = std::clamp(pSize, 0, filled_);
-  storage_.LetSize(pSize);
-  for (auto& vector : storage_.Elements().subspan(static_cast<std::size_t>(filled_))) {
-    if (!vector) vector = NewVector(pSize);
-    ++filled_;
-  }
-}
-
-void CDblVectors::SetVector(std::int32_t pIdx, runtime::Ref<CDblVector> pVector) {
-  const bool isSet = pVector != nullptr;
-  storage_.Store(pIdx, std::move(pVector));
-  if (!isSet) filled_ = std::min(filled_, pIdx - 1);
+  storage_.Resize(pSize, [pSize] {
+    auto vector = runtime::New<CDblVector>();
+    vector->LetBlockSize(pSize);
+    return vector;
+  });
 }
 
 void CDblVectors::InsertVector(const CDblVector& pVector, std::int32_t pPos) {
@@ -51,9 +33,7 @@ void CDblVectors::InsertVector(const CDblVector& pVector, std::int32_t pPos) {
 }
 
 void CDblVectors::DeleteVector(std::int32_t pIdx) {
-  if (Size() < 1) return;
-  storage_.Delete(pIdx);
-  filled_ = std::max(filled_ - 1, 0);
+  if (Size() > 0) storage_.Delete(pIdx);
 }
 
 void CDblVectors::CopyFrom(const CDblVectors& pSource) {
@@ -87,7 +67,7 @@ void CDblVectors::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
 
 void CDblVectors::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& pFrom) {
-    LetSize(pFrom.NextCount(kLeastRecord));
+    LetSize(pFrom.NextCount(kLeastVectorRecord));
     for (std::int32_t i = 0; i < Size(); ++i) {
       auto vector = runtime::New<CDblVector>();
       vector->LoadFromBuffer(&pFrom, true);

@@ -12,13 +12,15 @@
 //
 // Record: tag "DblVectors#1", the size as a long, each vector's record, tag "\DblVectors".
 //
-// Raises what the vectors raise (ElementVector.h). What was reached before an error stays.
+// Raises what the vectors raise (ElementVector.h). What was reached before an error stays; a size for whose vectors
+// there is no memory changes nothing.
 #pragma once
 
 #include <cstdint>
+#include <utility>
 
-#include "qzbase/data/BlockStorage.h"
 #include "qzbase/data/CDblVector.h"
+#include "qzbase/data/ObjectStorage.h"
 #include "qzbase/persist/CBuffer.h"
 #include "qzbase/runtime/Object.h"
 
@@ -33,7 +35,7 @@ class CDblVectors final : public runtime::Object {
   // A copy of the stored vector; copies into it; stores the vector itself, or none.
   runtime::Ref<CDblVector> Vector(std::int32_t pIdx) const { return Stored(pIdx).GetCopy(); }
   void LetVector(std::int32_t pIdx, const CDblVector& pVector) { Stored(pIdx).CopyFrom(pVector); }
-  void SetVector(std::int32_t pIdx, runtime::Ref<CDblVector> pVector);
+  void SetVector(std::int32_t pIdx, runtime::Ref<CDblVector> pVector) { storage_.Store(pIdx, std::move(pVector)); }
 
   // Both store a copy. A position below 1 or past the end appends.
   void InsertVector(const CDblVector& pVector, std::int32_t pPos);
@@ -60,8 +62,7 @@ class CDblVectors final : public runtime::Object {
  private:
   CDblVector& Stored(std::int32_t pIdx) const;
 
-  BlockStorage<runtime::Ref<CDblVector>> storage_{1};
-  std::int32_t filled_ = 0;  // that many slots are known to hold a vector: a change of size need not look at them
+  ObjectStorage<CDblVector> storage_;
 };
 
 }  // namespace qzbase

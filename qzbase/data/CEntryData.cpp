@@ -1,7 +1,6 @@
 #include "qzbase/data/CEntryData.h"
 
 #include <algorithm>
-#include <span>
 #include <utility>
 #include <vector>
 
@@ -10,6 +9,7 @@
 #include "qzbase/persist/Record.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/Demand.h"
 #include "qzbase/runtime/Memory.h"
 
 namespace qzbase {
@@ -31,10 +31,6 @@ Ref<CVector> NewColumn(QZVarType pVarType, std::int32_t pNrRows) {
 // A type and a number of elements: what the record of a column has at least, with markers or without.
 constexpr std::int32_t kLeastColumn = 8;
 
-std::int32_t OneMore(std::int32_t pCount) {
-  return CheckedNarrow<std::int32_t>(std::int64_t{pCount} + 1);
-}
-
 }  // namespace
 
 CVector& CEntryData::ColumnAt(std::int32_t pIdx) const {
@@ -45,19 +41,15 @@ CVector& CEntryData::ColumnAt(std::int32_t pIdx) const {
 
 template <class Body>
 void CEntryData::ForEachColumn(Body pBody) {
-  for (std::int32_t i = 1; i <= NrCols(); ++i)
-    if (const Ref<CVector>& column = cols_.Slot(i)) pBody(*column);
+  const auto each = [&](const Ref<CVector>& pColumn) {
+    if (pColumn) pBody(*pColumn);
+  };
+  cols_.Walk(NrCols(), each, [](const Ref<CVector>&, std::int32_t) {});
 }
 
 void CEntryData::Clear() {
   cols_ = Cols(kBlockSize);
   nrRows_ = 0;
-}
-
-// The one slot of a table without columns stays, but not what it held.
-void CEntryData::LetNrCols(std::int32_t pNrCols) {
-  cols_.LetSize(pNrCols);
-  if (pNrCols < 1) cols_.Store(1, nullptr);
 }
 
 void CEntryData::LetVarType(std::int32_t pIdx, QZVarType pVarType) {
@@ -77,25 +69,16 @@ void CEntryData::SetCol(std::int32_t pIdx, Ref<CVector> pCol) {
 
 void CEntryData::InsertCol(QZVarType pVarType, std::int32_t pPos) {
   Ref<CVector> column = NewColumn(pVarType, nrRows_);
-  LetNrCols(OneMore(NrCols()));
+  LetNrCols(CheckedNarrow<std::int32_t>(std::int64_t{NrCols()} + 1));
   cols_.Insert(pPos, std::move(column));
 }
 
 void CEntryData::MoveCol(std::int32_t pOldPos, std::int32_t pNewPos) {
-  if (pOldPos == pNewPos) return;
-  Ref<CVector> moved = cols_.Slot(pOldPos);
-  cols_.Slot(pNewPos);  // raises before anything is moved
-  const auto at = cols_.Elements().begin() - 1;
-  if (pOldPos < pNewPos)
-    std::rotate(at + pOldPos, at + pOldPos + 1, at + pNewPos + 1);
-  else
-    std::rotate(at + pNewPos, at + pOldPos, at + pOldPos + 1);
+  if (pOldPos != pNewPos) cols_.Move(pOldPos, pNewPos);
 }
 
 void CEntryData::DeleteCol(std::int32_t pIdx) {
-  if (NrCols() < 1) return;
-  cols_.Delete(pIdx);
-  LetNrCols(NrCols());
+  if (NrCols() > 0) cols_.Delete(pIdx);
 }
 
 void CEntryData::LetNrRows(std::int32_t pNrRows) {
@@ -108,45 +91,53 @@ void CEntryData::LetNrRows(std::int32_t pNrRows) {
 }
 
 void CEntryData::InsertRow(std::int32_t pAtPos) {
-  nrRows_ = OneMore(nrRows_);
+  nrRows_ = CheckedNarrow<std::int32_t>(std::int64_t{nrRows_} + 1);
   ForEachColumn([pAtPos](CVector& column) { column.InsertValue(pAtPos, InvalidValueOf(column.VarType())); });
 }
 
-// The rows are counted last: an index that the columns refuse changes nothing.
 void CEntryData::DeleteRow(std::int32_t pIdx) {
   if (nrRows_ < 1) return;
-  ForEachColumn([pIdx](CVector& column) { column.DeleteValue(pIdx); });
   --nrRows_;
+  ForEachColumn([pIdx](CVector& column) { column.DeleteValue(pIdx); });
 }
 
-// Every column must have all rows before the first one moves.
-std::vector<std::span<Variant>> CEntryData::RowsOfColumns() const {
-  std::vector<std::span<Variant>> columns;
-  columns.reserve(static_cast<std::size_t>(std::max(NrCols(), 0)));
-  for (std::int32_t i = 1; i <= NrCols(); ++i) {
-    CVector& column = ColumnAt(i);
-    if (column.Size() < nrRows_) Raise(RuntimeError::SubscriptOutOfRange);
-    columns.push_back(column.Elements().first(static_cast<std::size_t>(std::max(nrRows_, 0))));
-  }
+// The key column, and every other one as far as the columns are counted: slot 1 may be the key without columns. One
+// that stands in several slots sorts once.
+std::vector<CVector*> CEntryData::ColumnsToSort(std::int32_t pKey) const {
+  std::vector<CVector*> columns = {&ColumnAt(pKey)};
+  for (std::int32_t i = 1; i <= NrCols(); ++i)
+    if (CVector* column = &ColumnAt(i); column != columns.front()) columns.push_back(column);
+  std::sort(columns.begin() + 1, columns.end());
+  columns.erase(std::unique(columns.begin() + 1, columns.end()), columns.end());
+  for (CVector* column : columns) column->Slots().CheckCount(nrRows_);
   return columns;
 }
 
+// Rows that no column has ever written stay behind all others, unless a key belongs behind an empty one: then all rows
+// are sorted, else one of those stands for all.
+std::int32_t CEntryData::RowsToSort(const std::vector<CVector*>& pColumns, bool pAscending) const {
+  std::int32_t rows = SlotsToSort(pColumns.front()->Slots(), nrRows_, pAscending);
+  for (CVector* column : pColumns) rows = std::max(rows, column->Slots().Written(nrRows_));
+  return rows;
+}
+
 void CEntryData::Sort(std::int32_t pColIdx, bool pAscending) {
-  ColumnAt(pColIdx);
   runtime::WithMemory([&] {
-    const auto columns = RowsOfColumns();
-    const RowMoves moves(SortedOrder(columns[static_cast<std::size_t>(pColIdx) - 1], pAscending));
-    for (const std::span<Variant> column : columns) moves.Apply(column);
+    const std::vector<CVector*> columns = ColumnsToSort(pColIdx);
+    const std::int32_t rows = RowsToSort(columns, pAscending);
+    const RowMoves moves(SortedOrder(columns.front()->Slots().FirstSlots(rows), pAscending));
+    for (CVector* column : columns) moves.Apply(column->Slots().FirstSlots(rows));
   });
 }
 
 void CEntryData::CopyFromValues(const CDblMatrix& pSource) {
   Cols cols(kBlockSize);
+  runtime::CheckDemand(pSource.NrCols(), sizeof(CVector) + sizeof(Ref<CVector>));
   cols.LetSize(pSource.NrCols());
   for (std::int32_t col = 1; col <= cols.Size(); ++col) {
     Ref<CVector> column = NewColumn(EVTDouble, pSource.NrRows());
     std::int32_t row = 0;
-    for (Variant& value : column->Elements()) value = pSource.Value(col, ++row);
+    for (Variant& value : column->Slots().Elements()) value = pSource.Value(col, ++row);
     cols.Store(col, std::move(column));
   }
   cols_ = std::move(cols);
@@ -170,7 +161,7 @@ Ref<CEntryData> CEntryData::GetCopy() const {
 bool CEntryData::IsEqual(const CEntryData& pCompare) const {
   if (NrCols() != pCompare.NrCols() || nrRows_ != pCompare.nrRows_) return false;
   for (std::int32_t i = 1; i <= NrCols(); ++i)
-    if (!ColumnAt(i).IsEqual(pCompare.ColumnAt(i))) return false;
+    if (VarType(i) != pCompare.VarType(i) || !ColumnAt(i).EqualSlots(pCompare.ColumnAt(i), nrRows_)) return false;
   return true;
 }
 
@@ -189,11 +180,11 @@ void CEntryData::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
 // The record of a column says how many elements it has; the number of rows alone makes none.
 void CEntryData::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& buffer) {
-    const std::int32_t nrCols = buffer.NextCount(kLeastColumn);
-    const std::int32_t nrRows = buffer.NextLong();
-    Clear();
+    cols_.AnnounceSize(buffer.NextCount(kLeastColumn));
+    nrRows_ = buffer.NextLong();
+    const std::int32_t nrCols = NrCols();
+    cols_ = Cols(kBlockSize);
     LetNrCols(nrCols);
-    nrRows_ = nrRows;
     for (std::int32_t i = 1; i <= nrCols; ++i) {
       cols_.Store(i, NewColumn(static_cast<QZVarType>(buffer.NextLong()), 0));
       ColumnAt(i).LoadFromBuffer(&buffer, true);

@@ -9,9 +9,9 @@
 //   data.Sort(2, true);             // the names follow
 //
 // Columns and rows count from 1. There are as many column slots as columns, at least one; outside them error 9 is
-// raised. A slot may hold no column: `LetNrCols` makes slots alone, and `LetVarType`, `SetCol` or an insertion then put
-// columns there. `LetNrRows`, `InsertRow` and `DeleteRow` pass over such a slot, moving and deleting columns does not
-// mind; everything else that needs its column raises error 91.
+// raised, whatever the number of columns. A slot may hold no column: `LetNrCols` makes slots alone, and `LetVarType`,
+// `SetCol` or an insertion then put columns there. `LetNrRows`, `InsertRow` and `DeleteRow` pass over such a slot,
+// moving and deleting columns does not mind; everything else that needs its column raises error 91.
 //
 // A row index is checked by the column, against its slots and not its size (CVector.h). Columns are objects that `Col`
 // hands out: who changes the size of one, or puts one of another length in place, has a table whose columns differ in
@@ -21,11 +21,10 @@
 // "\EntryData". Columns of EVTInvalid and EVTColor are written but raise InvVarType when they are read.
 //
 // Raises 6 where a count leaves 32 bits, 7 where memory does not suffice, and what columns and buffer raise. What was
-// reached before an error stays; copying and sorting change nothing where they fail.
+// reached before an error stays; copying, sorting and moving a column change nothing where they fail.
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <vector>
 
 #include "qzbase/core/QZVarType.h"
@@ -41,9 +40,10 @@ class CEntryData final : public runtime::Object {
  public:
   void Clear();
 
-  // New slots hold no column; columns behind a smaller number are dropped.
+  // New slots hold no column; columns behind a smaller number are dropped, but for the one in slot 1, which is always
+  // there.
   std::int32_t NrCols() const noexcept { return cols_.Size(); }
-  void LetNrCols(std::int32_t pNrCols);
+  void LetNrCols(std::int32_t pNrCols) { cols_.LetSize(pNrCols); }
 
   // Another type drops the values: a new column takes the place, with `NrRows` empty elements. So it does where the
   // slot holds none.
@@ -74,7 +74,8 @@ class CEntryData final : public runtime::Object {
   void InsertRow(std::int32_t pAtPos);
   void AddRow() { InsertRow(0); }
 
-  // An index past the end drops the last row. Without rows nothing happens.
+  // An index past the end drops the last row; one below 1 raises error 9 when the row has been counted. Without rows
+  // nothing happens.
   void DeleteRow(std::int32_t pIdx);
 
   const runtime::Variant& Value(std::int32_t pColIdx, std::int32_t pRowIdx) const {
@@ -84,8 +85,9 @@ class CEntryData final : public runtime::Object {
     ColumnAt(pColIdx).LetValue(pRowIdx, pValue);
   }
 
-  // Sorts the rows by one column, in the order of `CVector.Sort`; rows with equal keys keep theirs. Error 9 where a
-  // column is shorter than `NrRows`, 13 where a key is an object or array.
+  // Sorts the rows by one column, in the order of `CVector.Sort`; rows with equal keys keep theirs. Slots behind the
+  // elements of a column sort along; error 9 where one has fewer slots than `NrRows`, 13 where a key is an object or
+  // array.
   void Sort(std::int32_t pColIdx, bool pAscending);
 
   // Takes the columns of a matrix, as columns of doubles.
@@ -95,7 +97,7 @@ class CEntryData final : public runtime::Object {
   void CopyFrom(const CEntryData& pSource);
   runtime::Ref<CEntryData> GetCopy() const;
 
-  // Columns are equal when their types, sizes and elements are.
+  // Columns are equal when their types are and the values of the rows, whatever stands behind them.
   bool IsEqual(const CEntryData& pCompare) const;
 
   // Without a buffer both do nothing. Loading replaces the columns; slots that an error kept from being read hold none.
@@ -107,7 +109,8 @@ class CEntryData final : public runtime::Object {
   static constexpr std::int32_t kBlockSize = 1;
 
   CVector& ColumnAt(std::int32_t pIdx) const;  // error 91 where the slot holds none
-  std::vector<std::span<runtime::Variant>> RowsOfColumns() const;
+  std::vector<CVector*> ColumnsToSort(std::int32_t pKey) const;
+  std::int32_t RowsToSort(const std::vector<CVector*>& pColumns, bool pAscending) const;
   template <class Body>
   void ForEachColumn(Body pBody);  // but for slots that hold none
 

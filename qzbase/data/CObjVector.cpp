@@ -93,8 +93,9 @@ std::u16string CObjVector::GetUniqueKey(std::u16string_view pKey) const {
     return runtime::CompareText(pLeft, pRight, rules) < 0;
   };
   std::vector<std::u16string_view> taken;
-  runtime::WithMemory([&] { taken.reserve(static_cast<std::size_t>(Size())); });
-  for (std::int32_t i = 0; i < Size(); ++i) taken.push_back(Key(i + 1));
+  const auto take = [&](const KeyedObject& pSlot) { taken.push_back(pSlot.key); };
+  runtime::WithMemory(
+      [&] { storage_.Walk(Size(), take, [&](const KeyedObject& pEmpty, std::int32_t) { take(pEmpty); }); });
   std::sort(taken.begin(), taken.end(), isBefore);
   for (std::int32_t number = 1;; ++number) {
     key.resize(pKey.size());
@@ -105,15 +106,16 @@ std::u16string CObjVector::GetUniqueKey(std::u16string_view pKey) const {
 
 std::int32_t CObjVector::Index(std::u16string_view pKey) const {
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = 0; i < Size(); ++i)
-    if (runtime::EqualText(Key(i + 1), pKey, rules)) return i + 1;
-  return -1;
+  return storage_.Find(0, Size(), [&](const KeyedObject& pSlot) { return runtime::EqualText(pSlot.key, pKey, rules); });
 }
 
 runtime::Ref<CStrVector> CObjVector::KeyVec() const {
   auto keys = runtime::New<CStrVector>();
   keys->LetSize(Size());
-  for (std::int32_t i = 0; i < Size(); ++i) keys->LetValue(i + 1, Key(i + 1));
+  std::int32_t i = 0;
+  storage_.Walk(
+      Size(), [&](const KeyedObject& pSlot) { keys->LetValue(++i, pSlot.key); },
+      [](const KeyedObject&, std::int32_t) {});  // no key is "", which the others are too
   return keys;
 }
 

@@ -1,10 +1,12 @@
 #include "qzbase/data/CTable.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "qzbase/persist/Record.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/Demand.h"
 #include "qzbase/runtime/Memory.h"
 #include "qzbase/runtime/TextCompare.h"
 #include "qzbase/text/ValueText.h"
@@ -15,16 +17,25 @@ namespace {
 // A column holds one value a row.
 constexpr std::int32_t kColumnDims = 1;
 
-// The type of a descriptor that is to be stored. Raises before anything is changed where there is none to be had.
+// The type of a descriptor that is to be stored. Who asks the table for it gets copies: one that cannot be copied is
+// refused before anything changes.
 QZVarType TypeOf(const runtime::Ref<TEntryDesc>& pDesc) {
   if (!pDesc) runtime::Raise(runtime::RuntimeError::ObjectNotSet);
-  return pDesc->VarType();
+  return pDesc->GetCopy()->VarType();
 }
 
-// A column without a stated type shows each value as what it is.
+// A column takes any value: one that its type or format cannot show, or that has no stated type, is shown as what it
+// is, a date outside the calendar as its number of days.
 std::u16string CellText(const runtime::Variant& pValue, const TEntryDesc& pDesc, const runtime::LocaleRules& pRules) {
-  const QZVarType type = pDesc.VarType() == EVTInvalid ? VarTypeOf(pValue) : pDesc.VarType();
-  return ModConvert::ValueToString(pValue, type, pDesc.OutFormat(), true, pRules);
+  if (pValue.IsNull()) return std::u16string(kInvalidString);
+  const auto textAs = [&](QZVarType pType, std::u16string_view pFormat) {
+    return runtime::Attempt([&] { return ModConvert::ValueToString(pValue, pType, pFormat, true, pRules); });
+  };
+  const QZVarType own = VarTypeOf(pValue);
+  auto text = textAs(pDesc.VarType() == EVTInvalid ? own : pDesc.VarType(), pDesc.OutFormat());
+  if (!text) text = textAs(own, {});
+  if (!text) text = textAs(EVTDouble, {});
+  return text.value_or(std::u16string());
 }
 
 }  // namespace
@@ -90,17 +101,35 @@ runtime::Ref<CTypedInfo> CTable::Row(std::int32_t pRowIdx) const {
 
 std::u16string CTable::GetString() const {
   return runtime::WithMemory([this] {
-    const runtime::LocaleRules& rules = runtime::ThreadLocale();
     std::u16string text;
     for (std::int32_t col = 1; col <= NrCols(); ++col) text += descs_->At(col).ID() + u';';
     text += u'\n';
-    for (std::int32_t row = 1; row <= NrRows(); ++row) {
-      for (std::int32_t col = 1; col <= NrCols(); ++col)
-        text += CellText(Value(col, row), descs_->At(col), rules) + u';';
-      text += u'\n';
-    }
+    AppendRows(text);
     return text;
   });
+}
+
+void CTable::AppendRow(std::u16string& pText, std::int32_t pRow, const runtime::LocaleRules& pRules) const {
+  for (std::int32_t col = 1; col <= NrCols(); ++col) {
+    pText += CellText(Value(col, pRow), descs_->At(col), pRules) + u';';
+  }
+  pText += u'\n';
+}
+
+// Rows that no column has ever written read alike: the first of them is repeated.
+void CTable::AppendRows(std::u16string& pText) const {
+  const runtime::LocaleRules& rules = runtime::ThreadLocale();
+  if (NrRows() < 1) return;
+  std::int32_t written = 0;
+  for (std::int32_t col = 1; col <= NrCols(); ++col)
+    written = std::max(written, data_->Col(col)->Slots().Written(NrRows()));
+  runtime::CheckDemand(std::int64_t{NrRows()} - written, sizeof(char16_t));
+  for (std::int32_t row = 1; row <= written; ++row) AppendRow(pText, row, rules);
+  for (std::int32_t col = 1; col <= NrCols(); ++col) Value(col, NrRows());  // error 9 where a column has no such slot
+  if (written == NrRows()) return;
+  const std::size_t before = pText.size();
+  AppendRow(pText, written + 1, rules);
+  runtime::RepeatEnd(pText, pText.size() - before, NrRows() - written - 1);
 }
 
 // The rows go after the columns are there: those that stay lose theirs.
@@ -121,11 +150,10 @@ void CTable::CopyFromInfo(const CTypedInfo& pInfo) {
   }
 }
 
-// The grid first: it may refuse, and nothing has changed then.
 void CTable::CopyFrom(const CTable& pSource) {
-  data_->CopyFrom(*pSource.data_);
-  descs_->CopyFrom(*pSource.descs_);
   id_ = pSource.id_;
+  descs_->CopyFrom(*pSource.descs_);
+  data_->CopyFrom(*pSource.data_);
 }
 
 runtime::Ref<CTable> CTable::GetCopy() const {

@@ -46,14 +46,14 @@ class CTable final : public runtime::Object {
   std::int32_t NrCols() const noexcept { return descs_->Size(); }
   void LetNrCols(std::int32_t pNrCols);
 
-  // A copy. The set stores the object itself, error 91 where it is unset; the let copies its contents into the stored
-  // one. Where the type becomes another one, the column loses its values.
+  // A copy. The set stores the object itself, error 91 where it is unset or cannot be copied, before anything changes;
+  // the let copies its contents into the stored one. Where the type becomes another one, the column loses its values.
   runtime::Ref<TEntryDesc> ColDesc(std::int32_t pColIdx) const { return descs_->Desc(pColIdx); }
   void SetColDesc(std::int32_t pColIdx, runtime::Ref<TEntryDesc> pDesc);
   void LetColDesc(std::int32_t pColIdx, const TEntryDesc& pDesc);
   const runtime::Ref<TEntryDesc>& ColDescRef(std::int32_t pColIdx) const { return descs_->DescRef(pColIdx); }
 
-  // Appends a column and stores the descriptor itself.
+  // Appends a column and stores the descriptor itself, as `SetColDesc` does.
   void AddCol(runtime::Ref<TEntryDesc> pDesc);
   // Gives the descriptor one dimension and inserts a copy of it; a position below 1 or past the end appends.
   void InsertCol(TEntryDesc& pDesc, std::int32_t pAtPos);
@@ -88,8 +88,9 @@ class CTable final : public runtime::Object {
   void Sort(std::int32_t pCol, bool pAscending = true) { data_->Sort(pCol, pAscending); }
 
   // A line of IDs, then a line for each row, each ID and cell followed by ";", each line by a line feed. Cells have the
-  // texts that users see: by the type and output format of their descriptor, "~" where there is no value. Raises what
-  // the conversion to the type raises.
+  // texts that users see: by the type and output format of their descriptor, "~" where there is no value or null. A
+  // value that does not convert to the type is shown as what it is; objects and arrays are "". Error 7 at once for rows
+  // that nobody has written and that make more than a gibibyte.
   std::u16string GetString() const;
 
   // Takes copies of the descriptors and has no rows afterwards. Columns that are there already with the right type are
@@ -106,6 +107,9 @@ class CTable final : public runtime::Object {
   void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
 
  private:
+  void AppendRow(std::u16string& pText, std::int32_t pRow, const runtime::LocaleRules& pRules) const;
+  void AppendRows(std::u16string& pText) const;
+
   std::u16string id_;
   runtime::Ref<CEntryDescs> descs_ = runtime::New<CEntryDescs>();
   runtime::Ref<CEntryData> data_ = runtime::New<CEntryData>();

@@ -1,5 +1,7 @@
 #include "qzbase/data/CVector.h"
 
+#include "qzbase/data/SavedSlots.h"
+
 namespace qzbase {
 namespace {
 
@@ -11,18 +13,18 @@ struct RecordRow {
   QZVarType type;
   void (*save)(CBuffer&, const Slots&);
   void (*load)(CBuffer&, Slots&);
+  std::int32_t leastBytes = 1;  // that an element takes
 };
 
 template <class T, auto kAdd, T (*kConvert)(const Variant&, const runtime::LocaleRules&)>
 void SaveAs(CBuffer& pBuffer, const Slots& pSlots) {
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = 0; i < pSlots.Size(); ++i) {
-    const Variant& value = pSlots.Slot(i + 1);
-    if (const T* same = value.If<T>())
+  SaveSlots(pBuffer, pSlots, kLeastRecord<T>, [&](const Variant& pValue) {
+    if (const T* same = pValue.If<T>())
       (pBuffer.*kAdd)(*same);
     else
-      (pBuffer.*kAdd)(kConvert(value, rules));
-  }
+      (pBuffer.*kAdd)(kConvert(pValue, rules));
+  });
 }
 
 template <auto kNext>
@@ -31,7 +33,7 @@ void LoadAs(CBuffer& pBuffer, Slots& pSlots) {
 }
 
 void SaveAny(CBuffer& pBuffer, const Slots& pSlots) {
-  for (std::int32_t i = 0; i < pSlots.Size(); ++i) pBuffer.AddObject(pSlots.Slot(i + 1));
+  SaveSlots(pBuffer, pSlots, 0, [&](const Variant& pValue) { pBuffer.AddObject(pValue); });
 }
 
 void LoadAny(CBuffer& pBuffer, Slots& pSlots) {
@@ -49,10 +51,10 @@ constexpr RecordRow kRecords[] = {
     {EVTString, SaveAs<std::u16string, &CBuffer::AddString, runtime::ToText>, LoadAs<&CBuffer::NextString>},
     {EVTDate, SaveAs<runtime::Date, &CBuffer::AddDate, runtime::ToDate>, LoadAs<&CBuffer::NextDate>},
     {EVTColor, SaveAs<std::int32_t, &CBuffer::AddColor, runtime::ToLong>, LoadAs<&CBuffer::NextLong>},
-    {EVTObject, SaveNothing, LoadNothing},
+    {EVTObject, SaveNothing, LoadNothing, 0},
     {EVTEnum, SaveAs<std::int32_t, &CBuffer::AddLong, runtime::ToLong>, LoadAs<&CBuffer::NextLong>},
 };
-constexpr RecordRow kNoRecord{EVTObject, SaveNothing, LoadNothing};
+constexpr RecordRow kNoRecord{EVTObject, SaveNothing, LoadNothing, 0};
 
 const RecordRow& RecordOf(QZVarType pVarType) noexcept {
   for (const RecordRow& row : kRecords)
@@ -71,14 +73,12 @@ bool CVector::IsEqual(const CVector& pCompare) const {
   return varType_ == pCompare.varType_ && Base::IsEqual(pCompare);
 }
 
-void CVector::SaveToBuffer(CBuffer* pBuffer, bool pAppend) const {
-  if (pBuffer != nullptr) return Base::SaveToBuffer(pBuffer, pAppend);
-  CBuffer dropped;
-  Base::SaveToBuffer(&dropped, pAppend);
-}
-
 void CVector::SaveElements(CBuffer& pBuffer) const {
   RecordOf(varType_).save(pBuffer, storage_);
+}
+
+std::int32_t CVector::LeastBytes() const {
+  return RecordOf(varType_).leastBytes;
 }
 
 void CVector::LoadElements(CBuffer& pBuffer) {

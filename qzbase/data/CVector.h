@@ -12,7 +12,7 @@
 //                first is a date
 //   EVTColor     written as a colour, read as a long: raises InvVarType
 //   EVTEnum      a long
-//   EVTObject    nothing, as for a number that is no type: elements keep what they hold
+//   EVTObject    nothing, as for a number that is no type: any number of elements loads, and keeps what it holds
 #pragma once
 
 #include <cstdint>
@@ -34,15 +34,14 @@ class CVector final : public BlockVector<ElementVector<CVector, VariantElement>>
   void CopyFrom(const CVector& pSource);
   bool IsEqual(const CVector& pCompare) const;
 
-  // Without a buffer the elements are converted all the same, and raise the errors of that.
-  void SaveToBuffer(CBuffer* pBuffer, bool pAppend = false) const;
-
-  // The elements, side by side; for the library's own classes.
-  std::span<runtime::Variant> Elements() { return storage_.Elements(); }
+  // For the library's own classes: the slots, of which the table that has this as a column says how many count
+  // (BlockStorage.h).
+  BlockStorage<runtime::Variant>& Slots() noexcept { return storage_; }
 
  private:
   void SaveElements(CBuffer& pBuffer) const override;
   void LoadElements(CBuffer& pBuffer) override;
+  std::int32_t LeastBytes() const override;
 
   QZVarType varType_ = EVTInvalid;
 };

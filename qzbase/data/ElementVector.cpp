@@ -33,11 +33,18 @@ template <class Self, class Element>
 std::u16string ElementVector<Self, Element>::GetString() const {
   return runtime::WithMemory([this] {
     const runtime::LocaleRules& rules = runtime::ThreadLocale();
+    runtime::CheckDemand(storage_.Reached(Size()) - storage_.Written(Size()), sizeof(char16_t));
     std::u16string text = u"(";
-    for (std::int32_t i = 0; i < Size(); ++i) {
-      if (i > 0) text += u';';
-      Element::AppendText(text, Value(i + 1), rules);
-    }
+    const auto append = [&](const Type& pValue) {
+      Element::AppendText(text, pValue, rules);
+      text += u';';
+    };
+    storage_.Walk(Size(), append, [&](const Type& pZero, std::int32_t pCount) {
+      const std::size_t before = text.size();
+      append(pZero);
+      runtime::RepeatEnd(text, text.size() - before, pCount - 1);
+    });
+    if (Size() > 0) text.pop_back();
     text += u')';
     return text;
   });
@@ -46,16 +53,20 @@ std::u16string ElementVector<Self, Element>::GetString() const {
 template <class Self, class Element>
 std::int32_t ElementVector<Self, Element>::Index(Argument pValue, std::int32_t pStartIndex) const {
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = std::max(pStartIndex, 1) - 1; i < Size(); ++i)
-    if (Element::Equal(Value(i + 1), pValue, rules)) return i + 1;
-  return -1;
+  return storage_.Find(std::max(pStartIndex, 1) - 1, Size(),
+                       [&](const Type& pElement) { return Element::Equal(pElement, pValue, rules); });
 }
 
 template <class Self, class Element>
 void ElementVector<Self, Element>::CopyFrom(const Self& pSource) {
+  LetSize(pSource.Size());
+  CopySlots(pSource);
+}
+
+template <class Self, class Element>
+void ElementVector<Self, Element>::CopySlots(const Self& pSource) {
   const ElementVector& source = pSource;
-  LetSize(source.Size());
-  storage_.CopyElements(source.storage_);
+  storage_.CopySlots(source.storage_, source.Size());
 }
 
 template <class Self, class Element>
@@ -67,19 +78,23 @@ runtime::Ref<Self> ElementVector<Self, Element>::GetCopy() const {
 
 template <class Self, class Element>
 bool ElementVector<Self, Element>::IsEqual(const Self& pCompare) const {
-  if (Size() != pCompare.Size()) return false;
+  return Size() == pCompare.Size() && EqualSlots(pCompare, Size());
+}
+
+// Slots that neither has written are equal.
+template <class Self, class Element>
+bool ElementVector<Self, Element>::EqualSlots(const Self& pCompare, std::int32_t pCount) const {
+  const BlockStorage<Type>& compare = static_cast<const ElementVector&>(pCompare).storage_;
   std::int32_t i = 0;
   if constexpr (std::derived_from<Element, NumberElement<Type>>) {
-    const ElementVector& compare = pCompare;
-    const auto left = storage_.WrittenElements();
-    const auto right = compare.storage_.WrittenElements();
-    const std::size_t count = std::min(left.size(), right.size());
-    if (!EqualNumbers(left.first(count), right.first(count))) return false;
-    i = static_cast<std::int32_t>(count);
+    i = std::min(storage_.Written(pCount), compare.Written(pCount));
+    if (!EqualNumbers(storage_.WrittenSlots(i), compare.WrittenSlots(i))) return false;
   }
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (; i < Size(); ++i)
+  for (const std::int32_t last = std::max(storage_.Written(pCount), compare.Written(pCount)); i < last; ++i)
     if (!Element::Equal(Value(i + 1), pCompare.Value(i + 1), rules)) return false;
+  storage_.CheckCount(pCount);
+  compare.CheckCount(pCount);
   return true;
 }
 
@@ -94,7 +109,7 @@ void ElementVector<Self, Element>::SaveToBuffer(CBuffer* pBuffer, bool pAppend) 
 template <class Self, class Element>
 void ElementVector<Self, Element>::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& pFrom) {
-    LetSize(pFrom.NextCount());
+    LetSize(pFrom.NextCount(LeastBytes()));
     LoadElements(pFrom);
   });
 }

@@ -14,7 +14,8 @@
 // Record: tag "VE#1", the size as a long, the elements, tag "\VE".
 //
 // Raises error 6 where a size leaves 32 bits or the storage has more than 32,767 blocks, 7 where memory does not
-// suffice, and what the buffer raises. What was reached before an error stays.
+// suffice, and what the buffer raises. What was reached before an error stays. A text or a record of elements that were
+// never written, too large to be had, is refused before it is begun.
 #pragma once
 
 #include <algorithm>
@@ -66,6 +67,11 @@ class ElementVector : public runtime::Object {
   runtime::Ref<Self> GetCopy() const;
   bool IsEqual(const Self& pCompare) const;
 
+  // The same for slots, whatever the sizes: takes over as many as the source has elements; compares so many first ones.
+  // Error 9 where one of the two has fewer.
+  void CopySlots(const Self& pSource);
+  bool EqualSlots(const Self& pCompare, std::int32_t pCount) const;
+
   // Without a buffer both do nothing.
   void SaveToBuffer(CBuffer* pBuffer, bool pAppend = false) const;
   void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
@@ -77,6 +83,8 @@ class ElementVector : public runtime::Object {
   // The elements alone; the size has been written and read before.
   virtual void SaveElements(CBuffer& pBuffer) const = 0;
   virtual void LoadElements(CBuffer& pBuffer) = 0;
+  // What each takes of a buffer at least (CBuffer::NextCount).
+  virtual std::int32_t LeastBytes() const { return 1; }
 };
 
 }  // namespace qzbase

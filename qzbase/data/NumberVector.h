@@ -38,6 +38,15 @@ class NumberVector : public BlockVector<TypedVector<Self, Element>> {
 
   // Of the valid elements. Error 6 where a sum leaves the range of the numbers.
   Type Sum() const;
+
+ private:
+  using Base::storage_;
+
+  // All zeros that were never written are one: they change neither an extreme nor a sum more than once.
+  template <class Body>
+  void Each(Body pBody) const {
+    storage_.Walk(Size(), pBody, [&](Type pZero, std::int32_t) { pBody(pZero); });
+  }
 };
 
 }  // namespace qzbase

@@ -50,13 +50,7 @@ void RowMatrix<Self, RowTraits>::LetNrCols(std::int32_t pNrCols) {
 
 template <class Self, class RowTraits>
 void RowMatrix<Self, RowTraits>::LetNrRows(std::int32_t pNrRows) {
-  const auto before = static_cast<std::size_t>(std::max(NrRows(), 0));
-  rows_.LetSize(pNrRows);
-  const auto rows = rows_.Elements();
-  runtime::WithMemory([&] {
-    for (std::size_t i = before; i < rows.size(); ++i)
-      if (rows[i] == nullptr) rows[i] = NewRow();
-  });
+  rows_.Resize(pNrRows, [this] { return NewRow(); });
 }
 
 template <class Self, class RowTraits>
@@ -96,8 +90,7 @@ void RowMatrix<Self, RowTraits>::LetCol(std::int32_t pColIdx, const RowVector& p
 
 template <class Self, class RowTraits>
 void RowMatrix<Self, RowTraits>::LetRow(std::int32_t pRowIdx, const RowVector& pRow) {
-  RowVector& row = RowAt(pRowIdx);
-  for (std::int32_t i = 0; i < pRow.Size(); ++i) row.LetValue(i + 1, pRow.Value(i + 1));
+  RowAt(pRowIdx).CopySlots(pRow);
 }
 
 template <class Self, class RowTraits>
@@ -124,7 +117,7 @@ void RowMatrix<Self, RowTraits>::InverseRowOrder() {
 
 template <class Self, class RowTraits>
 void RowMatrix<Self, RowTraits>::CopyFrom(const Self& pSource) {
-  Rows rows(kBlockSize);
+  Rows rows;
   rows.LetSize(pSource.NrRows());
   for (std::int32_t i = 0; i < pSource.NrRows(); ++i) rows.Store(i + 1, pSource.Row(i + 1));
   nrCols_ = pSource.nrCols_;
@@ -161,7 +154,7 @@ void RowMatrix<Self, RowTraits>::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) 
   LoadRecord(pBuffer, pAppend, [this](CBuffer& buffer) {
     nrCols_ = buffer.NextLong();
     const std::int32_t count = buffer.NextCount();
-    rows_ = Rows(kBlockSize);
+    rows_ = {};
     rows_.LetSize(count);
     for (std::int32_t i = 0; i < count; ++i) rows_.Store(i + 1, runtime::New<RowVector>());
     for (std::int32_t i = 0; i < count; ++i) RowAt(i + 1).LoadFromBuffer(&buffer, true);

@@ -20,12 +20,12 @@
 // Record: tag "MA#1", `NrCols` and `NrRows` as longs, the record of each row, tag "\MA".
 //
 // Raises 6 where a count leaves 32 bits, 7 where memory does not suffice, and what rows and the buffer raise. What was
-// reached before an error stays.
+// reached before an error stays; sorting and copying change nothing where they fail.
 #pragma once
 
 #include <cstdint>
 
-#include "qzbase/data/BlockStorage.h"
+#include "qzbase/data/ObjectStorage.h"
 #include "qzbase/persist/CBuffer.h"
 #include "qzbase/runtime/Object.h"
 
@@ -43,7 +43,8 @@ class RowMatrix : public runtime::Object {
   std::int32_t NrCols() const noexcept { return nrCols_; }
   void LetNrCols(std::int32_t pNrCols);
 
-  // New rows have `NrCols` elements, zero or empty.
+  // Every slot without a row gets one of `NrCols` elements, zero or empty. A number for whose rows there is no memory
+  // changes nothing.
   std::int32_t NrRows() const noexcept { return rows_.Size(); }
   void LetNrRows(std::int32_t pNrRows);
 
@@ -94,14 +95,13 @@ class RowMatrix : public runtime::Object {
   void LoadFromBuffer(CBuffer* pBuffer, bool pAppend = false);
 
  private:
-  using Rows = BlockStorage<runtime::Ref<RowVector>>;
-  static constexpr std::int32_t kBlockSize = 1;
+  using Rows = ObjectStorage<RowVector>;
 
   RowVector& RowAt(std::int32_t pRowIdx) const;
   runtime::Ref<RowVector> NewRow() const;
   void InsertAt(std::int32_t pAtPos, runtime::Ref<RowVector> pRow);
 
-  Rows rows_{kBlockSize};
+  Rows rows_;
   std::int32_t nrCols_ = 0;
 };
 

@@ -8,7 +8,8 @@
 #include "qzbase/data/CDblVector.h"
 #include "qzbase/data/CLngVector.h"
 #include "qzbase/data/CStrVector.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/data/SavedSlots.h"
+#include "qzbase/runtime/Attempt.h"
 
 namespace qzbase {
 namespace {
@@ -33,33 +34,24 @@ std::u16string_view TakePiece(std::u16string_view& pText) {
   return piece;
 }
 
-// What was reached before an error stays.
-template <class Call>
-void WithoutErrors(Call pCall) {
-  try {
-    runtime::WithMemory(pCall);
-  } catch (const runtime::AutomationError&) {
-  }
-}
-
 }  // namespace
 
 template <class Self, class Element>
 void TypedVector<Self, Element>::SetFromArray(const runtime::Array<Type>& InArray) {
   if (!InArray.IsAllocated()) runtime::Raise(runtime::RuntimeError::SubscriptOutOfRange);
   LetSize(InArray.Size());
-  storage_.CopyElements(InArray.Elements());
+  storage_.CopySlots(InArray.Elements());
 }
 
 template <class Self, class Element>
 void TypedVector<Self, Element>::SetFromString(std::u16string_view pString) {
   // A text of texts may lie in a slot of this vector.
   using Text = std::conditional_t<std::same_as<Type, std::u16string>, std::u16string, std::u16string_view>;
-  WithoutErrors([&] {
+  runtime::Attempt([&] {  // what was reached before an error stays
     const Text text(pString);
     std::u16string_view rest = WithoutBrackets(WithoutBrackets(text, u"("), u"{");
     const std::int32_t count = CountPieces(rest);
-    WithoutErrors([&] { LetSize(count); });  // as many slots as there are take their pieces
+    runtime::Attempt([&] { LetSize(count); });  // as many slots as there are take their pieces
     const runtime::LocaleRules& rules = runtime::ThreadLocale();
     for (std::int32_t i = 1; i <= std::min(count, storage_.Capacity()); ++i) {
       Type value{};
@@ -70,7 +62,7 @@ void TypedVector<Self, Element>::SetFromString(std::u16string_view pString) {
 
 template <class Self, class Element>
 void TypedVector<Self, Element>::SaveElements(CBuffer& pBuffer) const {
-  for (std::int32_t i = 0; i < Size(); ++i) (pBuffer.*Element::kAdd)(Value(i + 1));
+  SaveSlots(pBuffer, storage_, kLeastRecord<Type>, [&](const Type& pValue) { (pBuffer.*Element::kAdd)(pValue); });
 }
 
 template <class Self, class Element>

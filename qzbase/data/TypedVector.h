@@ -25,7 +25,6 @@ class TypedVector : public ElementVector<Self, ElementTraits> {
   using Element = ElementTraits;
   using Base::LetSize;
   using Base::Size;
-  using Base::Value;
   using typename Base::Type;
 
   QZVarType VarType() const noexcept requires(Element::kVarType != EVTInvalid) { return Element::kVarType; }
@@ -41,9 +40,11 @@ class TypedVector : public ElementVector<Self, ElementTraits> {
 
   std::int32_t NrValid() const requires(!std::same_as<Type, bool>) {
     const runtime::LocaleRules& rules = runtime::ThreadLocale();
+    const auto isValid = [&](const Type& pValue) { return !Element::Equal(pValue, Element::kDefault, rules); };
     std::int32_t count = 0;
-    for (std::int32_t i = 0; i < Size(); ++i)
-      if (!Element::Equal(Value(i + 1), Element::kDefault, rules)) ++count;
+    storage_.Walk(
+        Size(), [&](const Type& pValue) { count += isValid(pValue); },
+        [&](const Type& pZero, std::int32_t pCount) { count += isValid(pZero) ? pCount : 0; });
     return count;
   }
 

@@ -134,7 +134,7 @@ struct VariantElement : AnyElement {
 
   // Both raise error 13 for objects and arrays; the text of null raises 94.
   static bool Equal(const runtime::Variant& pLeft, const runtime::Variant& pRight, const runtime::LocaleRules& pRules) {
-    return runtime::CompareExact(pLeft, pRight, pRules) == runtime::Order::Equal;
+    return runtime::EqualExact(pLeft, pRight, pRules);
   }
   static void AppendText(std::u16string& pText, const runtime::Variant& pValue, const runtime::LocaleRules& pRules) {
     pText += runtime::ToText(pValue, pRules);

@@ -83,6 +83,11 @@ Order CompareInSort(const Variant& pLeft, const Variant& pRight, CaseRule pCase,
                                           : runtime::Compare(pLeft, pRight, pCase, pRules);
 }
 
+bool SortsBehindZero(const Variant& pElement, bool pAscending) {
+  return !HasNoOrderAtAll(pElement) &&
+         CompareInSort(pElement, Variant()) == (pAscending ? Order::Greater : Order::Less);
+}
+
 void SortElements(std::span<Variant> pElements, bool pAscending) {
   const auto stranger = std::find_if(pElements.begin(), pElements.end(), HasNoOrderAtAll);
   const auto count = static_cast<std::size_t>(stranger - pElements.begin());

@@ -20,6 +20,7 @@
 #include <utility>
 #include <vector>
 
+#include "qzbase/data/BlockStorage.h"
 #include "qzbase/runtime/Compare.h"
 
 namespace qzbase {
@@ -36,6 +37,16 @@ void SortElements(std::span<std::u16string> pElements, bool pAscending);
 // sorted then, it and those behind it unchanged.
 void SortElements(std::span<runtime::Variant> pElements, bool pAscending);
 
+// Whether an element goes behind a slot that was never written. Texts do not: such a slot is no number and ends the
+// sort. Nor do objects and arrays, which end it too.
+inline bool SortsBehindZero(double pElement, bool pAscending) {
+  return pAscending ? pElement > 0 : pElement < 0;
+}
+inline bool SortsBehindZero(const std::u16string&, bool) {
+  return false;
+}
+bool SortsBehindZero(const runtime::Variant& pElement, bool pAscending);
+
 // How two variants stand to each other when they sort: as they compare (runtime/Compare.h), but that there is one order
 // among all: an empty one is the number 0 beside a text too, and not-a-number has no order to texts either. Texts
 // compare exactly, or by text comparison when case is to be ignored.
@@ -51,6 +62,11 @@ std::vector<std::int32_t> SortedOrder(std::span<const runtime::Variant> pKeys, b
 // how element i stands to element j: `Unknown` where one of them has no order, which it then has not to itself either.
 template <class OrderOf>
 std::vector<std::int32_t> SortedOrder(std::int32_t pCount, bool pAscending, OrderOf pOrder);
+
+// How many of the first slots have to be sorted for `pCount` to be. Where none that was written belongs behind a zero,
+// those never written stay where they are, and one of them stands for all.
+template <class T>
+std::int32_t SlotsToSort(const BlockStorage<T>& pStorage, std::int32_t pCount, bool pAscending);
 
 // Puts the elements into such an order.
 template <class T>
@@ -74,6 +90,15 @@ std::vector<std::int32_t> SortingAs(std::int32_t pCount, runtime::Order pBehind,
 }
 
 }  // namespace detail
+
+template <class T>
+std::int32_t SlotsToSort(const BlockStorage<T>& pStorage, std::int32_t pCount, bool pAscending) {
+  const std::int32_t reached = pStorage.Reached(pCount);
+  const auto written = pStorage.WrittenSlots(reached);
+  const auto count = static_cast<std::int32_t>(written.size());
+  const auto goesBehindZero = [&](const T& pValue) { return SortsBehindZero(pValue, pAscending); };
+  return count == reached || std::any_of(written.begin(), written.end(), goesBehindZero) ? reached : count + 1;
+}
 
 template <class OrderOf>
 std::vector<std::int32_t> SortedOrder(std::int32_t pCount, bool pAscending, OrderOf pOrder) {

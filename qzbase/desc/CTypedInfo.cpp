@@ -7,6 +7,7 @@
 #include "qzbase/runtime/Compare.h"
 #include "qzbase/runtime/Convert.h"
 #include "qzbase/runtime/Memory.h"
+#include "qzbase/runtime/Positions.h"
 
 namespace qzbase {
 
@@ -38,7 +39,7 @@ void CTypedInfo::DeleteInfo(std::int32_t pIndex) {
   const std::int32_t count = NrInfos();
   if (count < 1) return;
   descs_->DeleteDesc(pIndex);
-  for (std::int32_t i = pIndex; i < count; ++i) values_[i] = std::move(values_[i + 1]);
+  for (std::int32_t i = pIndex; i < count; ++i) values_[i] = values_[i + 1];  // which stays where the next has no slot
   ResizeValues();
 }
 
@@ -51,9 +52,9 @@ std::u16string CTypedInfo::GetString() const {
   return runtime::WithMemory([this] {
     const runtime::LocaleRules& rules = runtime::ThreadLocale();
     std::u16string text;
-    for (std::int32_t i = 1; i <= NrInfos(); ++i) text += descs_->At(i).ID() + u';';
+    for (const std::int32_t i : runtime::Positions(1, NrInfos())) text += descs_->At(i).ID() + u';';
     text += u'\n';
-    for (std::int32_t i = 1; i <= NrInfos(); ++i) text += runtime::ToText(Value(i), rules) + u';';
+    for (const std::int32_t i : runtime::Positions(1, NrInfos())) text += runtime::ToText(Value(i), rules) + u';';
     return text;
   });
 }
@@ -65,7 +66,7 @@ void CTypedInfo::SetupFrom(const CEntryDescs& pDesc) {
 }
 
 void CTypedInfo::UpdateFrom(const CTypedInfo& pSource) {
-  for (std::int32_t i = 1; i <= pSource.NrInfos(); ++i) {
+  for (const std::int32_t i : runtime::Positions(1, pSource.NrInfos())) {
     const std::int32_t index = Index(pSource.descs_->At(i).ID());
     if (index > 0) LetValue(index, pSource.Value(i));
   }
@@ -74,7 +75,7 @@ void CTypedInfo::UpdateFrom(const CTypedInfo& pSource) {
 void CTypedInfo::CopyFrom(const CTypedInfo& pSource) {
   descs_->CopyFrom(*pSource.descs_);
   ResizeValues();
-  for (std::int32_t i = 1; i <= NrInfos(); ++i) LetValue(i, pSource.Value(i));
+  for (const std::int32_t i : runtime::Positions(1, NrInfos())) LetValue(i, pSource.Value(i));
 }
 
 runtime::Ref<CTypedInfo> CTypedInfo::GetCopy() const {
@@ -85,15 +86,15 @@ runtime::Ref<CTypedInfo> CTypedInfo::GetCopy() const {
 
 bool CTypedInfo::IsEqual(const CTypedInfo& pCompare) const {
   if (!descs_->IsEqual(*pCompare.descs_)) return false;
-  for (std::int32_t i = 1; i <= NrInfos(); ++i)
-    if (runtime::Compare(Value(i), pCompare.Value(i)) != runtime::Order::Equal) return false;
+  for (const std::int32_t i : runtime::Positions(1, NrInfos()))
+    if (!runtime::EqualExact(Value(i), pCompare.Value(i))) return false;
   return true;
 }
 
 void CTypedInfo::SaveToBuffer(CBuffer* pBuffer, bool pAppend) {
   SaveRecord(pBuffer, pAppend, u"TypedInfo#1", [this](CBuffer& buffer) {
     descs_->SaveToBuffer(&buffer, true);
-    for (std::int32_t i = 1; i <= NrInfos(); ++i) buffer.AddObject(Value(i), descs_->At(i).VarType());
+    for (const std::int32_t i : runtime::Positions(1, NrInfos())) buffer.AddObject(Value(i), descs_->At(i).VarType());
   });
 }
 
@@ -101,7 +102,8 @@ void CTypedInfo::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& buffer) {
     descs_->LoadFromBuffer(&buffer, true);
     ResizeValues();
-    for (std::int32_t i = 1; i <= NrInfos(); ++i) LetValue(i, buffer.NextObject(descs_->At(i).VarType()));
+    for (const std::int32_t i : runtime::Positions(1, NrInfos()))
+      LetValue(i, buffer.NextObject(descs_->At(i).VarType()));
   });
 }
 

@@ -8,7 +8,9 @@
 #include "qzbase/persist/Record.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"
+#include "qzbase/runtime/Demand.h"
 #include "qzbase/runtime/Memory.h"
+#include "qzbase/runtime/Positions.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase {
@@ -36,11 +38,12 @@ void DescList<Self, Traits>::Resize(std::int32_t pSize) {
 template <class Self, class Traits>
 void DescList<Self, Traits>::LetSize(std::int32_t pSize) {
   const std::int32_t filled = mayHoldNone_ ? 0 : std::max(size_, 0);
+  runtime::CheckDemand(std::int64_t{pSize} - std::max(size_, 0), sizeof(Element));
   if (pSize < 1) slots_[1] = nullptr;  // its slot stays
   Resize(pSize);
   mayHoldNone_ = true;
   runtime::WithMemory([&] {
-    for (std::int32_t i = filled + 1; i <= pSize; ++i)
+    for (const std::int32_t i : runtime::Positions(filled + 1, pSize))
       if (!slots_[i]) slots_[i] = runtime::New<Element>();
   });
   mayHoldNone_ = false;
@@ -86,7 +89,7 @@ void DescList<Self, Traits>::DeleteDesc(std::int32_t pIndex) {
 template <class Self, class Traits>
 std::int32_t DescList<Self, Traits>::Index(std::u16string_view pID) const {
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = 1; i <= size_; ++i)
+  for (const std::int32_t i : runtime::Positions(1, size_))
     if (runtime::EqualText(At(i).ID(), pID, rules)) return i;
   return -1;
 }
@@ -95,7 +98,7 @@ template <class Self, class Traits>
 std::u16string DescList<Self, Traits>::GetString() const {
   return runtime::WithMemory([this] {
     std::u16string text;
-    for (std::int32_t i = 1; i <= size_; ++i) {
+    for (const std::int32_t i : runtime::Positions(1, size_)) {
       if (i > 1) text += u';';
       text += u'(' + At(i).GetString() + u')';
     }
@@ -106,7 +109,7 @@ std::u16string DescList<Self, Traits>::GetString() const {
 template <class Self, class Traits>
 void DescList<Self, Traits>::CopyFrom(const Self& pSource) {
   LetSize(pSource.Size());
-  for (std::int32_t i = 1; i <= size_; ++i) At(i).CopyFrom(pSource.At(i));
+  for (const std::int32_t i : runtime::Positions(1, size_)) At(i).CopyFrom(pSource.At(i));
 }
 
 template <class Self, class Traits>
@@ -119,7 +122,7 @@ runtime::Ref<Self> DescList<Self, Traits>::GetCopy() const {
 template <class Self, class Traits>
 bool DescList<Self, Traits>::IsEqual(const Self& pCompare) const {
   if (size_ != pCompare.Size()) return false;
-  for (std::int32_t i = 1; i <= size_; ++i)
+  for (const std::int32_t i : runtime::Positions(1, size_))
     if (!At(i).IsEqual(pCompare.At(i))) return false;
   return true;
 }
@@ -128,7 +131,7 @@ template <class Self, class Traits>
 void DescList<Self, Traits>::SaveToBuffer(CBuffer* pBuffer, bool pAppend) {
   SaveRecord(pBuffer, pAppend, Traits::kTag, [this](CBuffer& buffer) {
     buffer.AddLong(size_);
-    for (std::int32_t i = 1; i <= size_; ++i) At(i).SaveToBuffer(&buffer, true);
+    for (const std::int32_t i : runtime::Positions(1, size_)) At(i).SaveToBuffer(&buffer, true);
   });
 }
 
@@ -136,7 +139,7 @@ template <class Self, class Traits>
 void DescList<Self, Traits>::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
   LoadRecord(pBuffer, pAppend, [this](CBuffer& buffer) {
     LetSize(buffer.NextCount(kLeastRecord));
-    for (std::int32_t i = 1; i <= size_; ++i) At(i).LoadFromBuffer(&buffer, true);
+    for (const std::int32_t i : runtime::Positions(1, size_)) At(i).LoadFromBuffer(&buffer, true);
   });
 }
 

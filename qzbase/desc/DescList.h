@@ -14,7 +14,8 @@
 // Record: the opening tag of the class ("VV#1", "DV#1"), the size as a long, each descriptor's record, the closing tag.
 //
 // Raises error 6 where the size leaves 32 bits, 7 where memory does not suffice, and what descriptors and buffer raise.
-// What was reached before an error stays: a list that was loaded in part has its new size.
+// What was reached before an error stays: a list that was loaded in part has its new size. A size for whose descriptors
+// there is no memory (runtime/Demand.h), and an insertion of one that cannot be copied, change nothing.
 #pragma once
 
 #include <cstdint>

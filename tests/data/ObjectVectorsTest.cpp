@@ -44,17 +44,6 @@ TEST(CObjVector, MayHoldItself) {
   list->LetRef(1, nullptr);
 }
 
-TEST(CObjVector, FindsKeysThatAreFree) {
-  CObjVector list;
-  for (const char16_t* key : {u"A", u"a1", u"A3", u"", u"A01"}) {
-    list.LetSize(list.Size() + 1);
-    list.LetKey(list.Size(), key);
-  }
-  const std::pair<const char16_t*, const char16_t*> rows[] = {
-      {u"b", u"b"}, {u"a", u"a2"}, {u"A1", u"A11"}, {u"", u"1"}, {u"A0", u"A0"}};
-  for (const auto& [key, unique] : rows) EXPECT_EQ(list.GetUniqueKey(key), unique);
-}
-
 TEST(CObjVector, LoadsIntoTheObjectsThatItHolds) {
   CObjVector list, loaded;
   CBuffer buffer;
@@ -73,37 +62,6 @@ TEST(CObjVector, LoadsIntoTheObjectsThatItHolds) {
   note->text = u"no copy";
   EXPECT_EQ(ErrorOf([&] { loaded.AddObject(u"key", note.get()); }), kTypeMismatch);
   EXPECT_EQ(loaded.Index(u"KEY"), 3);  // without an object
-}
-
-TEST(CDblVectors, FillsEverySlot) {
-  CDblVectors list;
-  list.LetSize(3);
-  const auto third = list.VectorRef(3);
-  list.SetVector(2, nullptr);
-  list.DeleteVector(1);
-  EXPECT_EQ(ErrorOf([&] { list.LetBlockSize(5); }), kObjectNotSet);
-  list.LetSize(4);
-  EXPECT_EQ(list.VectorRef(1)->GetArray().UpperBound(), 4);
-  EXPECT_EQ(list.VectorRef(2), third);
-}
-
-TEST(CDblVectors, CopiesStoresAndLoads) {
-  CDblVectors list;
-  CBuffer buffer;
-  const auto vector = New<CDblVector>();
-  vector->SetFromString(u"1;2");
-  list.AddVector(*vector);
-  list.InsertVector(CDblVector(), 9);
-  list.InsertVector(CDblVector(), 2);
-  list.SetVector(3, vector);
-  vector->AddValue(3);
-  list.LetVector(3, *list.Vector(1));
-  ExpectGolden(list, buffer, "golden/CDblVectors.bin");
-  const auto copy = list.GetCopy();
-  copy->LetVector(2, *vector);
-  EXPECT_FALSE(copy->IsEqual(list));
-  copy->LoadFromBuffer(&buffer);
-  EXPECT_TRUE(copy->IsEqual(list));
 }
 
 }  // namespace
