@@ -53,5 +53,5 @@ void SpeakGerman() {
   for (const TranslatedError& each : kErrors)
     errors.AddValue(std::u16string(each.module) + kSeparator + std::u16string(each.id) + kSeparator +
                     std::u16string(each.message));
-  GCResource::SetLocalizedStrings(texts, errors);
+  GCResource::SetLocalizedStrings(texts, &errors);
 }

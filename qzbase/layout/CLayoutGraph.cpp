@@ -2,7 +2,7 @@
 
 namespace qzbase {
 
-// Every field, in the order of the record.
+// Every field, in the order of the record, in which they are copied too.
 struct CLayoutGraph::Lists {
   static constexpr auto kFields =
       Fields(&CLayoutGraph::title_, &CLayoutGraph::border_, &CLayoutGraph::legendPos_, &CLayoutGraph::backColor_,

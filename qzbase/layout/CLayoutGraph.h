@@ -58,6 +58,8 @@ class CLayoutGraph final : public LayoutFrame<AxisBlock> {
   const TLabelStyle& LabelStyle(GraphLabel pGraphLabel) const { return At(labelStyles_, pGraphLabel); }
   void LetLabelStyle(GraphLabel pGraphLabel, const TLabelStyle& pStyle) { At(labelStyles_, pGraphLabel) = pStyle; }
 
+  // Field after field in the order of the record: an error in the number of curve styles (CurveStyles.h) leaves the
+  // title to the axes copied, and the rest as it was.
   void CopyFrom(const CLayoutGraph& pSource);
   runtime::Ref<CLayoutGraph> GetCopy() const;
   bool IsEqual(const CLayoutGraph& pCompare) const;

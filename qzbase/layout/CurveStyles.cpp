@@ -7,9 +7,14 @@
 #include "qzbase/layout/LayoutBlocks.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/CheckedNarrow.h"
-#include "qzbase/runtime/Memory.h"
 
 namespace qzbase {
+namespace {
+
+// Two tags of seven and six characters, five longs.
+constexpr std::int32_t kStyleRecord = (5 + 7) + 5 * 5 + (5 + 6);
+
+}  // namespace
 
 std::int32_t DefaultColor(std::int32_t pIndex) {
   constexpr std::array<std::int32_t, 10> kCycle = {qzBlue,       qzGreen,    qzRed,       qzCyan,    qzPurple,
@@ -24,48 +29,49 @@ TCurveStyle DefaultCurveStyle(std::int32_t pIndex) {
 }
 
 void CurveStyles::LetCount(std::int32_t pCount) {
-  if (count_ < 0 && pCount > count_) runtime::Raise(runtime::RuntimeError::SubscriptOutOfRange);
-  const auto kept = static_cast<std::size_t>(std::max(pCount, 0));
-  if (kept < assigned_.size()) assigned_.resize(kept);
-  count_ = pCount;
+  if (Count() < 0 && pCount > Count()) runtime::Raise(runtime::RuntimeError::SubscriptOutOfRange);
+  if (pCount < 1) slots_.Store(1, {});  // its slot stays
+  slots_.LetSize(pCount);
 }
 
 TCurveStyle CurveStyles::Style(std::int32_t pIndex) const {
-  if (pIndex > count_) return DefaultCurveStyle(pIndex);
+  if (pIndex > Count()) return DefaultCurveStyle(pIndex);
   if (pIndex < 1) runtime::Raise(runtime::RuntimeError::SubscriptOutOfRange);
-  const auto offset = static_cast<std::size_t>(pIndex) - 1;
-  return offset < assigned_.size() ? assigned_[offset] : DefaultCurveStyle(pIndex);
+  const std::optional<TCurveStyle>& style = slots_.Slot(pIndex);
+  return style ? *style : DefaultCurveStyle(pIndex);
 }
 
 void CurveStyles::LetStyle(std::int32_t pIndex, const TCurveStyle& pStyle) {
-  if (pIndex > count_) return;
-  if (pIndex < 1) runtime::Raise(runtime::RuntimeError::SubscriptOutOfRange);
-  const TCurveStyle style = pStyle;
-  runtime::WithMemory([&] {
-    while (assigned_.size() < static_cast<std::size_t>(pIndex))
-      assigned_.push_back(DefaultCurveStyle(static_cast<std::int32_t>(assigned_.size()) + 1));
-  });
-  assigned_[static_cast<std::size_t>(pIndex) - 1] = style;
+  if (pIndex > Count()) return;
+  slots_.Store(pIndex, pStyle);
+}
+
+TCurveStyle& CurveStyles::Entry(std::int32_t pIndex) {
+  std::optional<TCurveStyle>& entry = slots_.FirstSlots(pIndex).back();
+  if (!entry) entry = DefaultCurveStyle(pIndex);
+  return *entry;
 }
 
 void SaveField(CBuffer& pBuffer, const CurveStyles& pStyles) {
-  pBuffer.AddLong(pStyles.count_);
-  for (std::int32_t i = 0; i < pStyles.count_; ++i) SaveField(pBuffer, pStyles.Style(i + 1));
+  pBuffer.AddLong(pStyles.Count());
+  pBuffer.ExpectRecords(std::max(pStyles.Count(), 0), kStyleRecord);
+  for (std::int32_t i = 0; i < pStyles.Count(); ++i) SaveField(pBuffer, pStyles.Style(i + 1));
 }
 
 void LoadField(CBuffer& pBuffer, CurveStyles& pStyles) {
   pStyles.LetCount(pBuffer.NextCount());
-  for (std::int32_t i = 0; i < pStyles.count_; ++i) {
-    TCurveStyle style = pStyles.Style(i + 1);
-    LoadField(pBuffer, style);
-    pStyles.LetStyle(i + 1, style);
-  }
+  for (std::int32_t i = 1; i <= pStyles.Count(); ++i) LoadField(pBuffer, pStyles.Entry(i));
+}
+
+void CopyField(CurveStyles& pTo, const CurveStyles& pFrom) {
+  pTo.LetCount(pFrom.Count());
+  runtime::WithMemory([&] { pTo.slots_ = pFrom.slots_; });
 }
 
 bool EqualField(const CurveStyles& pLeft, const CurveStyles& pRight) {
-  if (pLeft.count_ != pRight.count_) return false;
-  const auto assigned = static_cast<std::int32_t>(std::max(pLeft.assigned_.size(), pRight.assigned_.size()));
-  for (std::int32_t i = 1; i <= assigned; ++i)
+  if (pLeft.Count() != pRight.Count()) return false;
+  const std::int32_t count = pLeft.Count();
+  for (std::int32_t i = 1; i <= std::max(pLeft.slots_.Written(count), pRight.slots_.Written(count)); ++i)
     if (pLeft.Style(i) != pRight.Style(i)) return false;
   return true;
 }

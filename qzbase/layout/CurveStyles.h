@@ -1,11 +1,14 @@
 // The styles of a graph's curves: a list counted from 1 that reads as a cycle of ten colours beyond its end.
 //
-// Only entries that were assigned take memory; all others are the defaults of their indices.
+// Only entries that were assigned, and those before them, take memory; all others are the defaults of their indices. To
+// save more than fit into a buffer is error 6 before the first one is written; to assign one so far behind the others
+// that a gibibyte would lie between them is error 7.
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <optional>
 
+#include "qzbase/data/BlockStorage.h"
 #include "qzbase/layout/TCurveStyle.h"
 #include "qzbase/persist/CBuffer.h"
 
@@ -18,7 +21,9 @@ TCurveStyle DefaultCurveStyle(std::int32_t pIndex);
 
 class CurveStyles {
  public:
-  std::int32_t Count() const noexcept { return count_; }
+  CurveStyles() { slots_.LetSize(1); }
+
+  std::int32_t Count() const noexcept { return slots_.Size(); }
 
   // Shrinking forgets what is cut off; grown entries are defaults. A count of 0 or less is kept as it is; growing from
   // a negative one raises error 9, since there is no entry at 0.
@@ -31,11 +36,15 @@ class CurveStyles {
 
   friend void SaveField(CBuffer& pBuffer, const CurveStyles& pStyles);
   friend void LoadField(CBuffer& pBuffer, CurveStyles& pStyles);
+  // Takes the count as `LetCount` does, and then the entries.
+  friend void CopyField(CurveStyles& pTo, const CurveStyles& pFrom);
   friend bool EqualField(const CurveStyles& pLeft, const CurveStyles& pRight);
 
  private:
-  std::vector<TCurveStyle> assigned_;  // at most count_
-  std::int32_t count_ = 1;
+  // An entry up to the count, in memory from now on.
+  TCurveStyle& Entry(std::int32_t pIndex);
+
+  BlockStorage<std::optional<TCurveStyle>> slots_{1};  // none where nothing was assigned
 };
 
 }  // namespace qzbase

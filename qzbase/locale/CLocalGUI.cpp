@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Positions.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase {
@@ -35,7 +36,7 @@ Ref<CLocalGUI> Checked(Ref<CLocalGUI> pChild) {
 // The first position from 1 to `pCount` that `pMatches` accepts; -1 when there is none.
 template <class Predicate>
 std::int32_t FirstOf(std::int32_t pCount, Predicate pMatches) {
-  for (std::int32_t i = 1; i <= pCount; ++i)
+  for (const std::int32_t i : runtime::Positions(1, pCount))
     if (pMatches(i)) return i;
   return -1;
 }
@@ -57,7 +58,7 @@ CLocalGUI::~CLocalGUI() {
 void CLocalGUI::LetNrChildren(std::int32_t pNrChildren) {
   children_.MakeSlots(pNrChildren);
   runtime::WithMemory([&] {
-    for (std::int32_t i = std::max(children_.Count(), 0) + 1; i <= pNrChildren; ++i)
+    for (const std::int32_t i : runtime::Positions(std::max(children_.Count(), 0) + 1, pNrChildren))
       if (!children_[i]) children_[i] = runtime::New<CLocalGUI>();
   });
   children_.Resize(pNrChildren);
@@ -80,7 +81,7 @@ Ref<CLocalGUI> CLocalGUI::FindChild(std::u16string_view pID, std::u16string_view
 Ref<CLocalGUI> CLocalGUI::FindBelow(std::u16string_view pKey, std::int32_t pLevel) const {
   CheckLevel(pLevel);
   const runtime::LocaleRules& rules = runtime::ThreadLocale();
-  for (std::int32_t i = 1; i <= children_.Count(); ++i) {
+  for (const std::int32_t i : runtime::Positions(1, children_.Count())) {
     if (runtime::EqualText(children_[i]->id_, pKey, rules)) return children_[i];
     if (Ref<CLocalGUI> found = children_[i]->FindBelow(pKey, pLevel + 1)) return found;
   }
@@ -115,12 +116,12 @@ void CLocalGUI::Save(CBuffer& pBuffer, std::int32_t pLevel) const {
   pBuffer.AddString(id_);
   pBuffer.AddString(propertyType_);
   pBuffer.AddLong(NrProperties());
-  for (std::int32_t i = 1; i <= NrProperties(); ++i) {
+  for (const std::int32_t i : runtime::Positions(1, NrProperties())) {
     pBuffer.AddString(properties_[i].id);
     pBuffer.AddString(properties_[i].value);
   }
   pBuffer.AddLong(NrChildren());
-  for (std::int32_t i = 1; i <= NrChildren(); ++i) children_[i]->Save(pBuffer, pLevel + 1);
+  for (const std::int32_t i : runtime::Positions(1, NrChildren())) children_[i]->Save(pBuffer, pLevel + 1);
 }
 
 void CLocalGUI::LoadFromBuffer(CBuffer* pBuffer, bool pAppend) {
@@ -140,7 +141,7 @@ void CLocalGUI::Load(CBuffer& pBuffer, std::int32_t pLevel, std::int64_t& pNodes
   const std::int32_t nrProperties = pBuffer.NextCount(kLeastProperty);
   properties_.Clear();
   properties_.Resize(nrProperties);
-  for (std::int32_t i = 1; i <= nrProperties; ++i) {
+  for (const std::int32_t i : runtime::Positions(1, nrProperties)) {
     properties_[i].id = pBuffer.NextString();
     properties_[i].value = pBuffer.NextString();
   }
@@ -150,7 +151,7 @@ void CLocalGUI::Load(CBuffer& pBuffer, std::int32_t pLevel, std::int64_t& pNodes
   if (pNodesLeft < 0) Raise(RuntimeError::OutOfMemory);
   children_.Clear();
   children_.Resize(std::min(nrChildren, 0));
-  for (std::int32_t i = 1; i <= nrChildren; ++i) {
+  while (children_.Count() < nrChildren) {
     auto child = runtime::New<CLocalGUI>();
     child->Load(pBuffer, pLevel + 1, pNodesLeft);
     children_.Append(std::move(child));

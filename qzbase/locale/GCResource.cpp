@@ -9,7 +9,7 @@ std::u16string GCResource::LocalizedString(std::u16string_view pKey, std::u16str
   return LocalizedText(pKey, pDefaultString);
 }
 
-void GCResource::SetLocalizedStrings(const CStrVector& pMsg, const CStrVector& pErrMsg) {
+void GCResource::SetLocalizedStrings(const CStrVector& pMsg, const CStrVector* pErrMsg) {
   ModResource::SetLocalizedStrings(pMsg, pErrMsg);
 }
 

@@ -17,8 +17,9 @@ class GCResource : public runtime::Object {
   static std::u16string LocalizedString(std::u16string_view pKey, std::u16string_view pDefaultString = {});
 
   // Loads texts ("key", NUL, "text") and error messages ("module", NUL, "identifier", NUL, "message"). Raises
-  // LocKeyExists, and adds no more, for a key that has another text.
-  static void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector& pErrMsg);
+  // LocKeyExists, and adds no more, for a key that has another text; error 91 for unset messages, when the texts are
+  // in.
+  static void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector* pErrMsg);
 
   // The root of the tree of forms, to be filled in place.
   static runtime::Ref<CLocalGUI> LocalizedGUI();

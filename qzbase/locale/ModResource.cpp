@@ -1,25 +1,25 @@
 #include "qzbase/locale/ModResource.h"
 
-#include <exception>
 #include <string>
-#include <type_traits>
 
 #include "qzbase/core/ModError.h"
 #include "qzbase/core/StringTable.h"
 #include "qzbase/os/ThreadSlot.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/Convert.h"
-#include "qzbase/runtime/IgnoreErrors.h"
 #include "qzbase/runtime/NumberText.h"
+#include "qzbase/runtime/Positions.h"
 
 namespace qzbase::ModResource {
 namespace {
 
+using runtime::Attempt;
 using runtime::Object;
+using runtime::Positions;
 using runtime::Raise;
 using runtime::Ref;
 using runtime::RuntimeError;
-using runtime::Variant;
+using runtime::ToObject;
 
 struct ThreadState {
   Ref<CLocalGUI> root = runtime::New<CLocalGUI>();
@@ -39,37 +39,20 @@ void ReplaceMessage(std::u16string_view pItem) {
   if (position > 0) ModError::Registry().Entry(position).Msg = pItem;
 }
 
-// What a call gives, nothing where it fails.
-template <class Call>
-std::invoke_result_t<Call> Attempt(Call pCall) {
-  try {
-    return pCall();
-  } catch (const std::exception&) {
-    return std::invoke_result_t<Call>();
-  }
-}
-
-Ref<Object> ObjectIn(const Variant& pValue) {
-  const auto* object = pValue.If<Ref<Object>>();
-  if (!object) Raise(RuntimeError::TypeMismatch);
-  if (!*object) Raise(RuntimeError::ObjectNotSet);
-  return *object;
-}
-
+// "" where it cannot be read.
 std::u16string TextOf(Object& pObject, std::u16string_view pName) {
-  return Attempt([&] { return runtime::ToText(pObject.Get(pName)); });
+  return Attempt([&] { return runtime::ToText(pObject.Get(pName)); }).value_or(u"");
 }
 
 Ref<Object> ControlAt(Object& pControls, std::int32_t pIndex) {
   for (const std::u16string_view member : {u"", u"Item"})
-    if (auto control = Attempt([&] { return ObjectIn(pControls.Get(member, pIndex)); })) return control;
+    if (auto control = Attempt([&] { return ToObject(pControls.Get(member, pIndex)); })) return *control;
   return nullptr;
 }
 
 // Host code that is called may change the node: its texts are copied, and its positions checked, each time.
 void Apply(const CLocalGUI& pNode, Object& pObject) {
-  const std::int32_t count = pNode.NrProperties();
-  for (std::int32_t k = 1; k <= count; ++k)
+  for (const std::int32_t k : Positions(1, pNode.NrProperties()))
     Attempt(
         [&] { SetGUIProperty(pObject, std::u16string(pNode.PropertyID(k)), std::u16string(pNode.PropertyValue(k))); });
 }
@@ -77,7 +60,7 @@ void Apply(const CLocalGUI& pNode, Object& pObject) {
 void LocalizeControl(const CLocalGUI& pFormNode, Object& pControl) {
   const std::u16string index = TextOf(pControl, u"Index");
   const auto find = [&] { return pFormNode.FindChild(runtime::ToText(pControl.Get(u"Name")), index); };
-  if (const auto node = Attempt(find)) Apply(*node, pControl);
+  if (const auto node = Attempt(find).value_or(nullptr)) Apply(*node, pControl);
 }
 
 void Localize(Object& pForm) {
@@ -87,7 +70,7 @@ void Localize(Object& pForm) {
   const Ref<CLocalGUI> node = root->Child(position);
   Apply(*node, pForm);
 
-  const auto controls = ObjectIn(pForm.Get(u"Controls"));
+  const auto controls = ToObject(pForm.Get(u"Controls"));
   const std::int32_t count = runtime::ToLong(controls->Get(u"Count"));
   for (std::int32_t j = 0; j < count; ++j)
     if (const auto control = ControlAt(*controls, j)) LocalizeControl(*node, *control);
@@ -103,13 +86,14 @@ void AddLocalizedString(std::u16string_view pKey, std::u16string_view pText) {
   ModError::RaiseBuiltIn(BuiltInError::LocKeyExists, info);
 }
 
-void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector& pErrMsg) {
-  for (std::int32_t i = 1; i <= pMsg.Size(); ++i) {
+void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector* pErrMsg) {
+  for (const std::int32_t i : Positions(1, pMsg.Size())) {
     std::u16string_view text = pMsg.Value(i);
     const std::u16string_view key = TakeUpTo(u'\0', text);
     AddLocalizedString(key, text);
   }
-  for (std::int32_t i = 1; i <= pErrMsg.Size(); ++i) ReplaceMessage(pErrMsg.Value(i));
+  if (!pErrMsg) Raise(RuntimeError::ObjectNotSet);
+  for (const std::int32_t i : Positions(1, pErrMsg->Size())) ReplaceMessage(pErrMsg->Value(i));
 }
 
 Ref<CLocalGUI> LocalizedGUI() {
@@ -118,7 +102,7 @@ Ref<CLocalGUI> LocalizedGUI() {
 }
 
 void LocalizeForm(Object* pForm) {
-  if (pForm) runtime::IgnoreErrors([&] { Localize(*pForm); });
+  if (pForm) Attempt([&] { Localize(*pForm); });
 }
 
 void SetGUIProperty(Object& pObject, std::u16string_view pID, std::u16string_view pValue) {

@@ -33,8 +33,8 @@ void AddLocalizedString(std::u16string_view pKey, std::u16string_view pText);
 // Adds each text of `pMsg`, whose key ends at its first NUL (without one it is all key, and the text is empty), and
 // then replaces the registered messages that `pErrMsg` has. Errors that nobody has registered are passed over; an empty
 // module stands for any, as in every look-up of the registry. A refused text ends the call: what was added before it
-// stays.
-void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector& pErrMsg);
+// stays. Unset messages raise error 91 when the texts have been added.
+void SetLocalizedStrings(const CStrVector& pMsg, const CStrVector* pErrMsg);
 
 // The root of the thread's tree, always the same object.
 runtime::Ref<CLocalGUI> LocalizedGUI();

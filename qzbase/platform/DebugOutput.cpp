@@ -5,16 +5,16 @@
 
 #include "qzbase/os/OpenFile.h"
 #include "qzbase/os/ThreadSlot.h"
-#include "qzbase/runtime/AutomationError.h"
+#include "qzbase/platform/FontStyles.h"
+#include "qzbase/runtime/Attempt.h"
 #include "qzbase/runtime/CheckedNarrow.h"
 #include "qzbase/runtime/Convert.h"
-#include "qzbase/runtime/IgnoreErrors.h"
 #include "qzbase/runtime/TextCompare.h"
 
 namespace qzbase::ModBase {
 namespace {
 
-using runtime::IgnoreErrors;
+using runtime::Attempt;
 using runtime::Object;
 using runtime::Ref;
 using runtime::RuntimeError;
@@ -39,21 +39,17 @@ DebugState& State() {
   return *state;
 }
 
-// A property of the control's font object, or the control's own of that name behind "Font".
-Variant FontProperty(Object& pControl, std::u16string_view pName) {
-  try {
-    const Variant font = pControl.Get(u"Font");
-    if (const auto* object = font.If<Ref<Object>>(); object && *object) return (*object)->Get(pName);
-  } catch (const runtime::AutomationError&) {
-    // A control of the older kind.
-  }
-  return pControl.Get(std::u16string(u"Font").append(pName));
+// A member of the control's font object, or the control's own of that name behind "Font".
+Variant FontProperty(Object& pControl, const runtime::NumberedMember& pMember) {
+  if (auto value = Attempt([&] { return FontMember(*runtime::ToObject(pControl.Get(u"Font")), pMember); }))
+    return *value;
+  return pControl.Get(std::u16string(u"Font").append(pMember.name));  // a control of the older kind
 }
 
 // One font, in one range of sizes, is drawn with more room.
 bool HasTallLines(Object& pControl) {
-  if (!runtime::EqualName(runtime::ToText(FontProperty(pControl, u"Name")), u"Tahoma")) return false;
-  const double size = runtime::ToDouble(FontProperty(pControl, u"Size"));
+  if (!runtime::EqualName(runtime::ToText(FontProperty(pControl, kFontName)), u"Tahoma")) return false;
+  const double size = runtime::ToDouble(FontProperty(pControl, kFontSize));
   return size > 11 && size < 12;
 }
 
@@ -79,7 +75,7 @@ void LetDebugMode(std::int32_t pNewValue) {
 
 void SetDbgWindow(Ref<Object> pDbgWnd, std::int32_t pMaxLines) {
   bool isTall = false;
-  if (pDbgWnd) IgnoreErrors([&] { isTall = HasTallLines(*pDbgWnd); });
+  if (pDbgWnd) Attempt([&] { isTall = HasTallLines(*pDbgWnd); });
   DebugState& state = State();
   state.maxLines = pMaxLines >= 1 ? pMaxLines : kMaxLines;
   state.lineHeight = isTall ? kTallLineHeight : kLineHeight;
@@ -95,11 +91,11 @@ void ShowDebugLine(std::u16string_view pDbgLine) {
   const DebugState state = State();
   if (state.window) {
     Object& list = *state.window;
-    IgnoreErrors([&] { DropFirstLine(list, state.maxLines); });
-    IgnoreErrors([&] { list.Call(u"AddItem", pDbgLine); });
-    IgnoreErrors([&] { ShowLastLine(list, state.lineHeight); });
+    Attempt([&] { DropFirstLine(list, state.maxLines); });
+    Attempt([&] { list.Call(u"AddItem", pDbgLine); });
+    Attempt([&] { ShowLastLine(list, state.lineHeight); });
   }
-  if (state.file != 0) IgnoreErrors([&] { os::WriteLine(state.file, pDbgLine); });
+  if (state.file != 0) Attempt([&] { os::WriteLine(state.file, pDbgLine); });
 }
 
 }  // namespace qzbase::ModBase

@@ -4,12 +4,12 @@
 
 #include "qzbase/os/MessageBox.h"
 #include "qzbase/os/ThreadSlot.h"
-#include "qzbase/runtime/IgnoreErrors.h"
+#include "qzbase/runtime/Attempt.h"
 
 namespace qzbase::ModBase {
 namespace {
 
-using runtime::IgnoreErrors;
+using runtime::Attempt;
 using runtime::Object;
 using runtime::Ref;
 
@@ -37,9 +37,9 @@ Displays& ThreadDisplays() {
 void Show(Display pDisplay, std::u16string_view pText) {
   const bool isCaption = pDisplay.type == kCaption;
   if (isCaption || pDisplay.type == kText) {
-    if (pDisplay.object) IgnoreErrors([&] { pDisplay.object->Let(isCaption ? u"Caption" : u"Text", pText); });
+    if (pDisplay.object) Attempt([&] { pDisplay.object->Let(isCaption ? u"Caption" : u"Text", pText); });
   } else if (!pText.empty()) {
-    IgnoreErrors([&] { os::ShowMessage(pText, kTitle); });
+    Attempt([&] { os::ShowMessage(pText, kTitle); });
   }
 }
 

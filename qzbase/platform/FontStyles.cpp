@@ -1,29 +1,48 @@
 #include "qzbase/platform/FontStyles.h"
 
+#include <array>
+#include <span>
+#include <utility>
+
 #include "qzbase/runtime/Convert.h"
 
 namespace qzbase::ModBase {
+namespace {
+
+using runtime::NumberedMember;
+using runtime::Object;
+using runtime::Variant;
+
+constexpr std::array<std::pair<NumberedMember, FontStyleBit>, 4> kFlags = {
+    {{kFontBold, kBold}, {kFontItalic, kItalic}, {kFontUnderline, kUnderlined}, {kFontStrikethrough, kStriked}}};
+
+void LetFontMember(Object& pFont, const NumberedMember& pMember, Variant pValue) {
+  pFont.InvokeNumbered(pMember, runtime::CallKind::Let, {&pValue, 1});
+}
+
+}  // namespace
 
 std::int32_t SetFontStyle(bool pIsBold, bool pIsItalic, bool pIsUnderlined, bool pIsStriked) {
   return (pIsBold ? kBold : 0) + (pIsItalic ? kItalic : 0) + (pIsUnderlined ? kUnderlined : 0) +
          (pIsStriked ? kStriked : 0);
 }
 
-void SetFontFromFontStyle(runtime::Object& pFont, const TFontStyle& pStyle) {
-  pFont.Let(u"Name", pStyle.Name);
-  pFont.Let(u"Size", pStyle.Size);
-  pFont.Let(u"Bold", HasFontStyle(pStyle.Style, kBold));
-  pFont.Let(u"Italic", HasFontStyle(pStyle.Style, kItalic));
-  pFont.Let(u"Underline", HasFontStyle(pStyle.Style, kUnderlined));
-  pFont.Let(u"Strikethrough", HasFontStyle(pStyle.Style, kStriked));
+Variant FontMember(Object& pFont, const NumberedMember& pMember) {
+  return pFont.InvokeNumbered(pMember, runtime::CallKind::Get, {});
 }
 
-TFontStyle FontStyle(runtime::Object& pFont, std::int32_t pColor) {
-  const auto isSet = [&](std::u16string_view pName) { return runtime::ToBoolean(pFont.Get(pName)); };
+void SetFontFromFontStyle(Object& pFont, const TFontStyle& pStyle) {
+  LetFontMember(pFont, kFontName, pStyle.Name);
+  LetFontMember(pFont, kFontSize, pStyle.Size);
+  for (const auto& [member, bit] : kFlags) LetFontMember(pFont, member, HasFontStyle(pStyle.Style, bit));
+}
+
+TFontStyle FontStyle(Object& pFont, std::int32_t pColor) {
   TFontStyle style;
-  style.Name = runtime::ToText(pFont.Get(u"Name"));
-  style.Size = runtime::ToLong(pFont.Get(u"Size"));
-  style.Style = SetFontStyle(isSet(u"Bold"), isSet(u"Italic"), isSet(u"Underline"), isSet(u"Strikethrough"));
+  style.Name = runtime::ToText(FontMember(pFont, kFontName));
+  style.Size = runtime::ToLong(FontMember(pFont, kFontSize));
+  for (const auto& [member, bit] : kFlags)
+    if (runtime::ToBoolean(FontMember(pFont, member))) style.Style |= bit;
   style.Color = pColor;
   return style;
 }

@@ -1,6 +1,7 @@
 // The texts of ModFileUtil.h.
+#include <algorithm>
+
 #include "qzbase/platform/ModFileUtil.h"
-#include "qzbase/runtime/NumberPattern.h"
 #include "qzbase/runtime/NumberText.h"
 #include "qzbase/runtime/TextCompare.h"
 
@@ -8,6 +9,12 @@ namespace qzbase::ModFileUtil {
 namespace {
 
 constexpr std::size_t kNotFound = std::u16string_view::npos;
+
+// The digits without zeros in front; empty for 0. Characters that only sort among the digits end them.
+std::u16string_view SignificantDigits(std::u16string_view pIndex) {
+  pIndex = pIndex.substr(0, pIndex.find_first_not_of(u"0123456789"));
+  return pIndex.substr(std::min(pIndex.find_first_not_of(u'0'), pIndex.size()));
+}
 
 }  // namespace
 
@@ -46,15 +53,12 @@ std::u16string_view GetFileNameRoot(std::u16string_view pName) {
 }
 
 std::u16string IndexedFileName(std::u16string_view pName, std::int32_t pIndex) {
-  // A double, since the digits of a name may say more than an integer holds. They say a whole number.
-  double index = pIndex;
-  if (index < 1) index = runtime::LeadingNumber(GetFileNameIndex(pName));
-  if (index < 1) index = 1;
+  std::u16string index = runtime::NumberText(pIndex);
+  if (pIndex < 1) index = SignificantDigits(GetFileNameIndex(pName));
+  if (index.empty()) index = u"1";
+  if (index.size() < 2) index.insert(0, 1, u'0');
   std::u16string name(GetPath(pName));
-  return name.append(GetFileNameRoot(pName))
-      .append(u"#")
-      .append(runtime::FormatNumber(index, u"###00"))
-      .append(GetExtn(pName));
+  return name.append(GetFileNameRoot(pName)).append(u"#").append(index).append(GetExtn(pName));
 }
 
 std::u16string PathToDir(std::u16string_view pPath) {

@@ -2,9 +2,12 @@
 #include "qzbase/platform/ModFileUtil.h"
 
 #include <algorithm>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "qzbase/os/Files.h"
+#include "qzbase/platform/TimeStamps.h"
 #include "qzbase/runtime/AutomationError.h"
 #include "qzbase/runtime/WildcardPattern.h"
 
@@ -15,10 +18,10 @@ using os::FileEntry;
 using os::FileResult;
 using runtime::RuntimeError;
 
-bool Exists(std::u16string_view pName, bool pAsFolder) {
+// Whether the search finds anything, and a folder or file first.
+bool FindsFirst(std::u16string_view pName, bool pFolder) {
   const std::vector<FileEntry> entries = os::FindEntries(pName);
-  return std::any_of(entries.begin(), entries.end(),
-                     [&](const FileEntry& entry) { return entry.isFolder == pAsFolder; });
+  return !entries.empty() && entries.front().isFolder == pFolder;
 }
 
 RuntimeError ErrorOf(FileResult pResult) {
@@ -43,11 +46,39 @@ bool IsTaken(std::u16string_view pName, std::u16string_view pPattern) {
   return pPattern.empty() || runtime::FitsWildcards(pName.substr(pName.size() - length), pPattern);
 }
 
-// Elsewhere than on Windows a name may have a "\" of its own, and the path through it would lead to another folder,
-// even back to the same one.
-bool CanBeEntered(std::u16string_view pName) {
-  return pName != u"." && pName != u".." && pName.find(u'\\') == std::u16string_view::npos;
-}
+// A list of files that grows from folder to folder.
+class Listing {
+ public:
+  Listing(std::u16string_view pPattern, bool pRecursive, CStrVector& pNames, CDblVector& pDates)
+      : pattern_(pPattern), recursive_(pRecursive), names_(pNames), dates_(pDates) {}
+
+  // The folder's name ends with a separator. A folder that holds itself through a link is not listed again.
+  void Add(const std::u16string& pFolder) {
+    const std::optional<os::FolderIdentity> identity = os::IdentityOf(pFolder);
+    if (!identity || std::find(open_.begin(), open_.end(), *identity) != open_.end()) return;
+    open_.push_back(*identity);
+    for (const FileEntry& entry : os::FindEntries(pFolder + u"*.*"))
+      entry.isFolder ? Enter(pFolder, entry) : Take(pFolder, entry);
+    open_.pop_back();
+  }
+
+ private:
+  void Enter(const std::u16string& pFolder, const FileEntry& pEntry) {
+    if (recursive_ && pEntry.name != u"." && pEntry.name != u"..") Add(pFolder + pEntry.name + u'\\');
+  }
+
+  void Take(const std::u16string& pFolder, const FileEntry& pEntry) {
+    if (!IsTaken(pEntry.name, pattern_)) return;
+    names_.AddValue(pFolder + pEntry.name);
+    dates_.AddValue(ModBase::DateOf(pEntry.modified).days);
+  }
+
+  std::u16string_view pattern_;
+  bool recursive_;
+  CStrVector& names_;
+  CDblVector& dates_;
+  std::vector<os::FolderIdentity> open_;  // the folders above and the one that is listed
+};
 
 }  // namespace
 
@@ -56,11 +87,11 @@ void DeleteFile(std::u16string_view pName) {
 }
 
 bool FileExists(std::u16string_view pName) {
-  return Exists(pName, false);
+  return FindsFirst(pName, false);
 }
 
 bool PathExists(std::u16string_view pPath) {
-  return Exists(PathToDir(pPath), true);
+  return FindsFirst(PathToDir(pPath), true);
 }
 
 bool FileNameValid(std::u16string_view pName) {
@@ -86,16 +117,7 @@ void GetDirContents(std::u16string_view pRootDir, std::u16string_view pPattern, 
   // As far as the system would read it: what stands behind a zero would be lost, the pattern too.
   std::u16string folder(pRootDir.substr(0, pRootDir.find(u'\0')));
   if (!folder.ends_with(u'\\')) folder += u'\\';
-  for (const FileEntry& entry : os::FindEntries(folder + u"*.*")) {
-    const std::u16string name = folder + entry.name;
-    if (!entry.isFolder) {
-      if (!IsTaken(entry.name, pPattern)) continue;
-      pNames.AddValue(name);
-      pDates.AddValue(entry.modified);
-    } else if (pRecursive && !entry.isLink && CanBeEntered(entry.name)) {
-      GetDirContents(name, pPattern, true, pNames, pDates);
-    }
-  }
+  Listing(pPattern, pRecursive, pNames, pDates).Add(folder);
 }
 
 }  // namespace qzbase::ModFileUtil

@@ -55,11 +55,7 @@ runtime::Ref<CStrVector> WindowsLocalGroups() {
 }
 
 std::int32_t WindowsCheckUser(std::u16string_view, std::u16string_view UserName, std::u16string_view Password) {
-  if (os::IsLogonValid(UserName, Password)) return 0;
-  const TErrIndex error = ModError::IndexOf(BuiltInError::InvWinPasswd);
-  const std::int32_t code = ModError::ErrCodeOf(error);
-  // A number of 0, which a host may have given the error, would say that the password is right.
-  return code != 0 ? code : ErrorRegistry::kCodeBase + error.Value;
+  return os::IsLogonValid(UserName, Password) ? 0 : ModError::StatusOf(BuiltInError::InvWinPasswd);
 }
 
 }  // namespace qzbase::ModBase

@@ -27,14 +27,18 @@ runtime::Date WholeSeconds(runtime::Date pDate) {
 
 }  // namespace
 
+runtime::Date DateOf(const os::ClockTime& pTime) {
+  if (!runtime::IsValidDay(pTime.year, pTime.month, pTime.day)) return {};
+  return runtime::MakeDate({pTime.year, pTime.month, pTime.day, pTime.hour, pTime.minute, pTime.second});
+}
+
 TTimeStamp NewTimeStamp() {
   return TimeStampOf(os::LocalTime(), os::CurrentZoneBias());
 }
 
 TTimeStamp TimeStampOf(const os::ClockTime& pLocal, const std::optional<os::ZoneBias>& pZone) {
   TTimeStamp stamp;
-  stamp.LocalTime =
-      runtime::MakeDate({pLocal.year, pLocal.month, pLocal.day, pLocal.hour, pLocal.minute, pLocal.second});
+  stamp.LocalTime = DateOf(pLocal);
   if (pZone) stamp.UniversalTime = WholeSeconds({stamp.LocalTime.days + TotalBias(*pZone) / kMinutesADay});
   return stamp;
 }

@@ -97,7 +97,7 @@ void LetStopFlag(bool pNewValue) {
 }
 
 std::int32_t CheckStopFlag() {
-  return StopFlag() ? ModError::ErrCodeOf(ErrStop()) : 0;
+  return StopFlag() ? ModError::StatusOf(BuiltInError::Stop) : 0;
 }
 
 TErrIndex ErrStop() {

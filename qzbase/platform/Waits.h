@@ -1,6 +1,7 @@
 // The clock of hundredths of a second, waiting, and the flag that ends a wait.
 //
-// A wait looks every 10 ms whether it is over, and lets the host handle its events in between (os/Events.h). An event
+// A wait looks every 10 ms whether it is over, and lets the host handle its events in between, for a bounded time
+// (os/Events.h): no flood of events keeps it from ending. An event
 // handler ends it early: a Stop button sets `LetStopFlag(true)`, the wait returns in its next round, and its caller
 // raises `CheckStopFlag` and clears the flag. Flags exist once per thread.
 #pragma once

@@ -1,18 +1,148 @@
-#include <cstring>
+#include <algorithm>
 #include <limits>
+#include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "qzbase/layout/CLayoutGraph.h"
 #include "qzbase/layout/CLayoutGraph3D.h"
 #include "qzbase/layout/CLayoutTable.h"
-#include "qzbase/runtime/Compare.h"
+#include "qzbase/runtime/Convert.h"
 #include "tests/support/Bytes.h"
 #include "tests/support/Corpus.h"
 #include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
+
+using runtime::Object;
+using runtime::Variant;
+using runtime::VariantKind;
+
+// ---- A layout as a list of cells: all that its properties say, at all their indices, records field by field.
+
+struct Property {
+  std::u16string name;
+  bool isIndexed = false;
+  bool isList = false;  // as long as a number says
+  std::vector<std::u16string> fields;
+};
+
+struct Cell {
+  std::string shown;
+  std::u16string name;
+  std::int32_t index = 0;  // 0 for a property without
+  std::u16string field;    // empty for one that is no record
+};
+
+// The lines of the public face that begin so, without their beginning.
+std::vector<std::string> FaceLines(const std::string& pBeginning) {
+  std::istringstream face(ReadTestFile("golden/typelib.txt"));
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(face, line);)
+    if (line.starts_with(pBeginning)) lines.push_back(line.substr(pBeginning.size()));
+  return lines;
+}
+
+// "8 let CursorFormat(pAxis: GraphAxis, pNewValue: String)"
+std::vector<Property> PropertiesOf(const std::string& pClass) {
+  std::vector<Property> properties;
+  for (const std::string& line : FaceLines(pClass + " ")) {
+    const std::size_t name = line.find(" let ");
+    if (name == std::string::npos) continue;
+    const std::size_t index = line.find('(');
+    const std::string type = line.substr(line.rfind(' ') + 1);
+    Property property{FromUtf8(line.substr(name + 5, index - name - 5)),
+                      line.find(", pNewValue") != std::string::npos,
+                      line.find("(pIndex: ") != std::string::npos,
+                      {}};
+    for (const std::string& field : FaceLines(type.substr(0, type.size() - 1) + "."))
+      if (field.find(": ") != std::string::npos)  // of a record; those of an enumeration have values
+        property.fields.push_back(FromUtf8(field.substr(0, field.find(':'))));
+    if (property.fields.empty()) property.fields.emplace_back();
+    properties.push_back(property);
+  }
+  return properties;
+}
+
+template <class... Value>
+void Let(Object& pLayout, const Cell& pCell, const Value&... pNewValue) {
+  pCell.index == 0 ? pLayout.Let(pCell.name, pNewValue...) : pLayout.Let(pCell.name, pCell.index, pNewValue...);
+}
+Variant Get(Object& pLayout, const Cell& pCell) {
+  return pCell.index == 0 ? pLayout.Get(pCell.name) : pLayout.Get(pCell.name, pCell.index);
+}
+
+// The indices that an indexed property has are those that raise nothing.
+std::int32_t LastIndex(Object& pLayout, const Property& pProperty) {
+  if (pProperty.isList) return runtime::ToLong(pLayout.Get(u"NrCurveStyles"));
+  std::int32_t index = 0;
+  while (ErrorOf([&] { pLayout.Get(pProperty.name, index + 1); }) == 0) ++index;
+  return index;
+}
+
+std::vector<Cell> CellsOf(Object& pLayout, const std::vector<Property>& pProperties) {
+  std::vector<Cell> cells;
+  for (const Property& property : pProperties)
+    for (const std::u16string& field : property.fields) {
+      const std::string shown = ToUtf8(property.name) + (field.empty() ? "" : "." + ToUtf8(field));
+      const std::int32_t last = property.isIndexed ? LastIndex(pLayout, property) : 0;
+      for (std::int32_t i = property.isIndexed ? 1 : 0; i <= last; ++i)
+        cells.push_back({shown, property.name, i, field});
+    }
+  return cells;
+}
+
+Variant ValueOf(Object& pLayout, const Cell& pCell) {
+  const Variant value = Get(pLayout, pCell);
+  return pCell.field.empty() ? value : (*value.If<Ref<Object>>())->Get(pCell.field);
+}
+
+void LetValueOf(Object& pLayout, const Cell& pCell, const Variant& pValue) {
+  if (pCell.field.empty()) return Let(pLayout, pCell, pValue);
+  const Variant record = Get(pLayout, pCell);
+  (*record.If<Ref<Object>>())->Let(pCell.field, pValue);
+  Let(pLayout, pCell, record);
+}
+
+using Texts = std::vector<std::u16string>;
+
+Texts TextsOf(Object& pLayout, const std::vector<Cell>& pCells) {
+  Texts texts;
+  for (const Cell& cell : pCells) texts.push_back(runtime::ToText(ValueOf(pLayout, cell)));
+  return texts;
+}
+
+// A line for a property or field, its values side by side.
+std::string Dump(Object& pLayout, const std::vector<Cell>& pCells) {
+  const Texts texts = TextsOf(pLayout, pCells);
+  std::string dump;
+  for (std::size_t i = 0; i < pCells.size(); ++i) {
+    dump += i > 0 && pCells[i].shown == pCells[i - 1].shown ? "|" : "\n" + pCells[i].shown + " ";
+    dump += ToUtf8(texts[i]);
+  }
+  return dump.substr(1) + "\n";
+}
+
+Variant Another(const Variant& pValue) {
+  switch (pValue.Kind()) {
+    case VariantKind::Boolean:
+      return !*pValue.If<bool>();
+    case VariantKind::String:
+      return *pValue.If<std::u16string>() + u"x\u00E4";
+    case VariantKind::Double:
+      return *pValue.If<double>() + 1.5;
+    default:
+      return runtime::ToLong(pValue) + 1;
+  }
+}
+
+// ---- Records.
+
+Bytes Golden(const std::string& pName) {
+  const std::string file = ReadTestFile("golden/" + pName + ".bin");
+  return Bytes(file.begin(), file.end());
+}
 
 template <class Layout>
 Bytes Saved(Layout& pLayout) {
@@ -22,67 +152,81 @@ Bytes Saved(Layout& pLayout) {
   return Bytes(array.begin(), array.end() - 1);
 }
 
-Bytes Golden(const std::string& pName) {
-  const std::string file = ReadTestFile("golden/" + pName + ".bin");
-  return Bytes(file.begin(), file.end());
-}
-
-// Saves as its golden file says, loads back from it, and copies.
 template <class Layout>
-void CheckRecord(Layout& pLayout, const std::string& pName) {
-  EXPECT_EQ(ToHex(Saved(pLayout)), ToHex(Golden(pName)));
+void Load(Layout& pLayout, Bytes pBytes) {
   CBuffer buffer;
-  buffer.LetByteArray(Storage(Golden(pName)));
-  Layout loaded;
-  loaded.LoadFromBuffer(&buffer);
-  EXPECT_TRUE(loaded.IsEqual(pLayout));
-  EXPECT_EQ(Saved(loaded), Saved(pLayout));
-  const auto copy = pLayout.GetCopy();
-  EXPECT_TRUE(copy->IsEqual(pLayout));
-  EXPECT_EQ(Saved(*copy), Saved(pLayout));
-  EXPECT_FALSE(Layout().IsEqual(pLayout));
+  buffer.LetByteArray(Storage(std::move(pBytes)));
+  pLayout.LoadFromBuffer(&buffer);
 }
 
-// Every field differs from its default, those of an axis on one axis at least.
 template <class Layout>
-void FillFrame(Layout& pLayout) {
-  pLayout.LetTitle(u"T\u00E4");
-  pLayout.LetBackColor(11);
-  pLayout.LetBorder(Border3D);
-  for (const GraphAxis axis : {XAxis, YAxis, ZAxis}) {
-    pLayout.LetAxisType(axis, axis == YAxis ? EVTDate : EVTLong);
-    pLayout.LetAxisFormat(axis, u"0.0");
-    pLayout.LetAxisCaption(axis, u"C");
-    pLayout.LetAxisUnit(axis, u"m");
-    pLayout.LetAxisMin(axis, axis);
-    pLayout.LetAxisMax(axis, 10 * axis);
-    pLayout.LetAutoMin(axis, axis == XAxis);
-    pLayout.LetAutoMax(axis, axis != XAxis);
-    pLayout.LetTickSpacing(axis, 0.25);
-    pLayout.LetAutoSpacing(axis, axis == ZAxis);
+class GraphLayout : public testing::Test {
+ protected:
+  static constexpr bool kIs3D = std::is_same_v<Layout, CLayoutGraph3D>;
+
+  const std::string name_ = kIs3D ? "CLayoutGraph3D" : "CLayoutGraph";
+  const std::vector<Property> properties_ = PropertiesOf(name_);
+
+ private:
+  runtime::ScopedLocale locale_{TestLocale("en-US")};
+};
+using GraphLayouts = testing::Types<CLayoutGraph, CLayoutGraph3D>;
+TYPED_TEST_SUITE(GraphLayout, GraphLayouts);
+
+TYPED_TEST(GraphLayout, WhatIsWrittenIsReadCopiedComparedSavedAndLoaded) {
+  TypeParam fresh;
+  const std::vector<Cell> cells = CellsOf(fresh, this->properties_);
+  const Texts before = TextsOf(fresh, cells);
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const Cell& cell = cells[i];
+    SCOPED_TRACE(cell.shown + " " + std::to_string(cell.index));
+    TypeParam layout;
+    const Variant value = Another(ValueOf(layout, cell));
+    LetValueOf(layout, cell, value);
+    Texts changed = before;
+    changed[i] = runtime::ToText(value);
+    EXPECT_EQ(TextsOf(layout, cells), changed);
+
+    const auto copy = layout.GetCopy();
+    EXPECT_EQ(TextsOf(*copy, cells), changed);
+    if (value.Kind() == VariantKind::String) LetValueOf(*copy, cell, u"X\u00C4");
+    EXPECT_TRUE(copy->IsEqual(layout));
+    EXPECT_EQ(fresh.IsEqual(layout), this->kIs3D && cell.name == u"Border");
+    TypeParam loaded;
+    Load(loaded, Saved(layout));
+    EXPECT_EQ(TextsOf(loaded, cells), this->kIs3D && cell.name == u"BackColor" ? before : changed);
   }
 }
 
-TEST(LayoutGraph, NewOne) {
-  const CLayoutGraph layout;
-  EXPECT_EQ(layout.Border(), -1);
-  EXPECT_EQ(layout.BackColor(), qzWhite);
-  EXPECT_EQ(layout.GridColor(), qzBLACK);
-  EXPECT_EQ(layout.LegendPos(), 1);
-  for (const GraphAxis axis : {XAxis, YAxis, ZAxis})
-    EXPECT_TRUE(layout.AxisType(axis) == EVTDouble && layout.AxisMin(axis) == 0 && layout.AxisMax(axis) == 1 &&
-                layout.AutoSpacing(axis) && !layout.AutoMin(axis) && !layout.ShowGrid(axis));
-  EXPECT_EQ(layout.CurveStyle(1), (TCurveStyle{2, 1, qzBlue, 1, 5}));
-  EXPECT_EQ(layout.LabelStyle(AxisLabel), TLabelStyle());
+TYPED_TEST(GraphLayout, TheRecordSaysWhatItAlwaysSaid) {
+  TypeParam layout;
+  Load(layout, Golden(this->name_));
+  EXPECT_EQ(Dump(layout, CellsOf(layout, this->properties_)), ReadTestFile("golden/" + this->name_ + ".txt"));
+  EXPECT_EQ(ToHex(Saved(layout)), ToHex(Golden(this->name_)));
 }
 
-TEST(LayoutGraph, ColoursRepeat) {
+TYPED_TEST(GraphLayout, OtherIndicesAreNotThere) {
+  TypeParam layout;
+  for (const Property& property : this->properties_) {
+    if (!property.isIndexed || property.isList) continue;
+    const std::int32_t last = property.name == u"LabelStyle" ? 6 : property.name.starts_with(u"Mesh") ? 2 : 3;
+    EXPECT_EQ(LastIndex(layout, property), last) << ToUtf8(property.name);
+    const Variant value = layout.Get(property.name, 1);
+    for (const std::int32_t index : {-1, 0, last + 1}) {
+      EXPECT_EQ(ErrorOf([&] { layout.Get(property.name, index); }), kSubscript) << ToUtf8(property.name);
+      EXPECT_EQ(ErrorOf([&] { layout.Let(property.name, index, value); }), kSubscript) << ToUtf8(property.name);
+    }
+  }
+}
+
+TEST(CurveStyles, ColoursRepeat) {
   const std::pair<std::int32_t, std::int32_t> rows[] = {{1, qzBlue}, {4, qzCyan},   {10, qzLightRed}, {11, qzBlue},
                                                         {0, qzBlue}, {-1, qzBLACK}, {-9, qzBlue}};
   for (const auto& [index, color] : rows) EXPECT_EQ(CLayoutGraph::DefaultColor(index), color) << index;
+  EXPECT_EQ(ErrorOf([] { CLayoutGraph::DefaultColor(std::numeric_limits<std::int32_t>::min()); }), kOverflow);
 }
 
-TEST(LayoutGraph, CurveStylesGrowByTheirNumberAlone) {
+TEST(CurveStyles, GrowByTheirNumberAlone) {
   CLayoutGraph layout;
   const TCurveStyle style{9, 8, 7, 6, 5};
   layout.LetCurveStyle(3, style);  // beyond the list
@@ -101,82 +245,36 @@ TEST(LayoutGraph, CurveStylesGrowByTheirNumberAlone) {
   EXPECT_EQ(layout.CurveStyle(1).Color, qzBlue);
   EXPECT_EQ(ErrorOf([&] { layout.CurveStyle(0); }), kSubscript);
   EXPECT_EQ(ErrorOf([&] { layout.LetCurveStyle(-1, style); }), kSubscript);
-  EXPECT_EQ(ErrorOf([&] { CLayoutGraph::DefaultColor(std::numeric_limits<std::int32_t>::min()); }), kOverflow);
-  layout.LetNrCurveStyles(-2);
-  EXPECT_EQ(layout.CurveStyle(-1).Color, qzBLACK);
-  EXPECT_EQ(ErrorOf([&] { layout.LetNrCurveStyles(1); }), kSubscript);
-  EXPECT_EQ(layout.NrCurveStyles(), -2);
 }
 
-TEST(LayoutGraph, IndicesThatAreNotThere) {
-  CLayoutGraph layout;
-  CLayoutGraph3D layout3D;
-  EXPECT_EQ(ErrorOf([&] { layout.LabelMode(BoundLabel); }), kSubscript);
-  EXPECT_EQ(ErrorOf([&] { layout.LabelStyle(GLUndefined); }), kSubscript);
-  EXPECT_EQ(ErrorOf([&] { layout.LetAxisMin(static_cast<GraphAxis>(4), 1); }), kSubscript);
-  EXPECT_EQ(ErrorOf([&] { layout3D.LetMeshShow(ZAxis, true); }), kSubscript);
-  EXPECT_EQ(ErrorOf([&] { layout3D.AxisUnit(GAUndefined); }), kSubscript);
-}
-
-TEST(LayoutGraph, Record) {
-  CLayoutGraph layout;
-  FillFrame(layout);
-  layout.LetGridColor(12);
-  layout.LetLegendPos(13);
-  layout.LetCursorMode(14);
-  layout.LetNrCurveStyles(2);
-  layout.LetCurveStyle(2, {21, 22, 23, 24, 25});
-  for (const GraphAxis axis : {XAxis, YAxis, ZAxis}) {
-    layout.LetAxisIsLog(axis, axis == YAxis);
-    layout.LetAxisIsReversed(axis, axis != YAxis);
-    layout.LetShowGrid(axis, axis == XAxis);
-    layout.LetCursorFormat(axis, u"f");
-    layout.LetLabelMode(static_cast<GraphLabel>(axis), 30 + axis);
+TEST(CurveStyles, NoneGrowFromANegativeNumber) {
+  CLayoutGraph source;
+  source.LetTitle(u"new");
+  source.LetShowGrid(ZAxis, true);
+  source.LetCursorMode(7);
+  const Bytes record = Saved(source);
+  for (const bool isLoaded : {false, true}) {
+    CLayoutGraph layout;
+    layout.LetNrCurveStyles(-2);
+    EXPECT_EQ(layout.CurveStyle(-1).Color, qzBLACK);
+    EXPECT_EQ(ErrorOf([&] { layout.LetNrCurveStyles(0); }), kSubscript);
+    EXPECT_EQ(ErrorOf([&] { isLoaded ? Load(layout, record) : layout.CopyFrom(source); }), kSubscript);
+    EXPECT_TRUE(layout.Title() == u"new" && layout.ShowGrid(ZAxis) && layout.CursorMode() == 0);
+    EXPECT_EQ(layout.NrCurveStyles(), -2);
+    CLayoutGraph taker;
+    taker.CopyFrom(layout);
+    EXPECT_EQ(taker.NrCurveStyles(), -2);
   }
-  layout.LetLabelStyle(FreeLabel, {u"Arial", 9.5, 1, 2, 3, 4, 5, 6});
-  CheckRecord(layout, "CLayoutGraph");
-
-  const auto other = layout.GetCopy();
-  other->LetTitle(u"t\u00C4");
-  EXPECT_TRUE(other->IsEqual(layout));
-  other->LetBorder(Border2D);
-  EXPECT_FALSE(other->IsEqual(layout));
-  TLabelStyle style = layout.LabelStyle(FreeLabel);
-  style.FontName = u"ARIAL";
-  other->CopyFrom(layout);
-  other->LetLabelStyle(FreeLabel, style);
-  EXPECT_TRUE(other->IsEqual(layout));
 }
 
-TEST(LayoutGraph3D, RecordLeavesOutTheBackColourAndComparisonTheBorder) {
-  CLayoutGraph3D layout;
-  EXPECT_TRUE(layout.GraphType() == GTSurface && layout.ShowColour() && layout.NrLevels() == 40 &&
-              layout.RotationAngle() == -35 && layout.ElevationAngle() == 25 && layout.MeshSpace(YAxis) == 1 &&
-              layout.Border() == -1 && !layout.AutoSpacing(XAxis));
-  FillFrame(layout);
-  layout.LetBackColor(qzWhite);
-  layout.LetGraphType(GTBoth);
-  layout.LetShowColour(false);
-  layout.LetShowContour(true);
-  layout.LetShowSolid(true);
-  layout.LetNrLevels(7);
-  layout.LetRotationAngle(1.5);
-  layout.LetElevationAngle(2.5);
-  layout.LetMeshSpace(XAxis, 3);
-  layout.LetMeshShow(YAxis, true);
-  CheckRecord(layout, "CLayoutGraph3D");
-
-  const auto other = layout.GetCopy();
-  other->LetBorder(BorderNone);
-  EXPECT_TRUE(other->IsEqual(layout));
-  other->LetBackColor(0);
-  EXPECT_FALSE(other->IsEqual(layout));
-  EXPECT_EQ(other->GetCopy()->BackColor(), 0);
-  CBuffer buffer;
-  layout.SaveToBuffer(&buffer);
-  other->LoadFromBuffer(&buffer);
-  EXPECT_EQ(other->BackColor(), 0);
-  EXPECT_EQ(other->Border(), Border3D);
+TEST(CurveStyles, OneThatCannotBeReadToItsEndKeepsWhatWasRead) {
+  Bytes record = Golden("CLayoutGraph");
+  const Bytes symbol = FromHex("05 18 00 00 00");  // of style 2
+  *std::search(record.begin(), record.end(), symbol.begin(), symbol.end()) = 4;
+  CLayoutGraph layout;
+  EXPECT_EQ(ErrorOf([&] { Load(layout, record); }), NumberOf(BuiltInError::InvVarType));
+  EXPECT_EQ(layout.CurveStyle(2), (TCurveStyle{21, 22, 23, 1, 5}));
+  EXPECT_EQ(layout.CursorMode(), 0);
 }
 
 TEST(LayoutTable, InfosAreAddressedByTheTextOfANumber) {
@@ -200,7 +298,12 @@ TEST(LayoutTable, InfosAreAddressedByTheTextOfANumber) {
   layout.LetBorder(Border2D);
   layout.LetCaptionColour(5);
   layout.LetGenericInfoValue(-5, u"x");
-  CheckRecord(layout, "CLayoutTable");
+  EXPECT_EQ(ToHex(Saved(layout)), ToHex(Golden("CLayoutTable")));
+  CLayoutTable loaded;
+  Load(loaded, Golden("CLayoutTable"));
+  const auto copy = layout.GetCopy();
+  EXPECT_TRUE(loaded.IsEqual(layout) && copy->IsEqual(layout) && !CLayoutTable().IsEqual(layout));
+  EXPECT_EQ(Saved(loaded), Saved(*copy));
   layout.ClearGenericInfos();
   EXPECT_EQ(layout.NrGenericInfos(), 0);
 }

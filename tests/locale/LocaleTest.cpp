@@ -35,7 +35,7 @@ void LoadTexts(std::u16string_view pMsg, std::u16string_view pErrMsg) {
       std::replace(item.begin(), item.end(), u'|', u'\0');
       vector.LetValue(i, item);
     }
-  GCResource::SetLocalizedStrings(vectors[0], vectors[1]);
+  GCResource::SetLocalizedStrings(vectors[0], &vectors[1]);
 }
 
 TEST(Strings, EveryTextIsTranslatedOnItsThread) {
@@ -68,6 +68,10 @@ TEST(Strings, EveryTextIsTranslatedOnItsThread) {
   EXPECT_EQ(GCResource::LocalizedString(u"X") + GCResource::LocalizedString(u"Last"), u"WertLast");
   EXPECT_EQ(GCError::ErrorMessage(NumberOf(BuiltInError::Stop)), u"Ende");
   EXPECT_EQ(GCError::EDesc(4).Msg, u"fehlt");
+  CStrVector last;
+  last.AddValue(u"Last");
+  EXPECT_EQ(ErrorOf([&] { GCResource::SetLocalizedStrings(last, nullptr); }), kObjectNotSet);
+  EXPECT_EQ(GCResource::LocalizedString(u"Last"), u"");  // the texts are in
   std::thread([] { EXPECT_EQ(GCResource::LocalizedString(u"X"), u"X"); }).join();
 }
 
@@ -238,11 +242,9 @@ TEST(Forms, LocalizeFormGoesOnBehindEveryFailure) {
     form->controls = New<Host>(Variant());
     form->controls->itemName = itemName;
     form->controls->items = {nullptr, u"no control", first, New<Host>(u"Option"), third, second};
-    runtime::SetLastError({1, u"source", u""});
     GCResource::LocalizeForm(form.get());
     EXPECT_EQ(ToUtf8(form->log + u"/" + first->log + u"/" + second->log), "Caption Haupt;/List 0 Rot;/Caption Zwei;");
     EXPECT_EQ(third->log, u"");
-    EXPECT_EQ(runtime::LastError().source, u"source");
   }
   GCResource::LocalizeForm(nullptr);
 }

@@ -49,6 +49,17 @@ runtime::Ref<Control> FontOf(const char16_t* pName, Variant pSize) {
                                                         {u"Strikethrough", std::int16_t{-1}}});
 }
 
+// A font that is called by the numbers of its members, which it notes.
+struct NumberedFont : Control {
+  using Control::Control;
+  Variant InvokeNumbered(const runtime::NumberedMember& pMember, CallKind pKind,
+                         std::span<Variant> pArguments) override {
+    called += std::to_string(pMember.number) + (pKind == CallKind::Let ? "=" : " ");
+    return Control::InvokeNumbered(pMember, pKind, pArguments);
+  }
+  std::string called;
+};
+
 TEST(Display, HooksAndBoxes) {
   std::u16string boxes;
   os::SetMessageHook([&](auto pText, auto pCaption) { ((boxes += pText) += u'/') += pCaption; });
@@ -99,7 +110,6 @@ TEST(Display, DebugLines) {
   for (const auto& [properties, maxLines, lines, kept, top] : rows) {
     const auto list = New<Control>(properties);
     list->properties[u"TopIndex"] = 0;
-    runtime::SetLastError({1, u"source", u""});
     GCBase::SetDbgWindow(list, maxLines);
     for (std::int32_t i = 1; i <= lines; ++i) GCBase::ShowDebugLine(i == lines ? u"last" : u"line");
     EXPECT_EQ(static_cast<std::int32_t>(list->lines.size()), kept);
@@ -107,7 +117,6 @@ TEST(Display, DebugLines) {
     if (kept > 0) {
       EXPECT_EQ(list->lines.back(), u"last");
     }
-    EXPECT_EQ(runtime::LastError().source, u"source");
   }
   GCBase::SetDbgWindow(nullptr);
   GCBase::ShowDebugLine(u"to nobody");
@@ -130,6 +139,10 @@ TEST(Fonts, BitsAndRecords) {
   EXPECT_EQ(GCBase::FontStyle(*font), (TFontStyle{u"Courier", 7, 2, 0}));
   GCBase::SetFontFromLabelStyle(*font, {u"Tahoma", 10.5, 5, 1, 2, 3, 4, 5});
   EXPECT_EQ(GCBase::FontStyle(*font), (TFontStyle{u"Tahoma", 10, 5, 0}));
+  NumberedFont numbered(font->properties);
+  EXPECT_EQ(GCBase::FontStyle(numbered), GCBase::FontStyle(*font));
+  GCBase::SetFontFromFontStyle(numbered, {u"Courier", 7, 2, 255});
+  EXPECT_EQ(numbered.called, "0 2 3 4 5 6 0=2=3=4=5=6=");
   EXPECT_EQ(ErrorOf([&] { GCBase::SetFontFromLabelStyle(*font, {u"", 3e9, 0, 0, 0, 0, 0, 0}); }), kOverflow);
   EXPECT_EQ(ErrorOf([&] { GCBase::FontStyle(*New<Control>()); }), NumberOf(RuntimeError::MemberNotFound));
 }

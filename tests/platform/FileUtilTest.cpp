@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "qzbase/os/Files.h"
 #include "qzbase/platform/GCFileUtil.h"
 #include "qzbase/runtime/Locale.h"
 #include "tests/support/Corpus.h"
@@ -66,7 +67,11 @@ TEST_F(FileUtil, PutsNamesTogether) {
       {u"run", 123456, u"run#123456"},
       {u"run#000.x", -1, u"run#01.x"},
       {u"run#99999999999", 0, u"run#99999999999"},
+      {u"run#0012345678901234567890.x", 0, u"run#12345678901234567890.x"},
+      {u"run#1\u00B2", 0, u"run#01"},
   };
+  const std::u16string longest = u"run#" + std::u16string(400, u'9');
+  EXPECT_EQ(GCFileUtil::IndexedFileName(longest, 0), longest);
   for (const auto& [name, index, expected] : rows) EXPECT_EQ(GCFileUtil::IndexedFileName(name, index), expected);
   const std::pair<const char16_t*, const char16_t*> folders[] = {
       {u"C:\\data\\", u"C:\\data"}, {u"C:", u"C:\\"}, {u"C:\\", u"C:\\"}, {u"a\\\\", u"a\\"}, {u"", u""}};
@@ -82,14 +87,25 @@ TEST_F(FileUtil, FindsFilesAndFolders) {
   const struct {
     const char16_t* name;
     bool isFile, isFolder;
-  } rows[] = {{u"sub", false, true},         {u"sub\\", false, true},           {u"sub\\run.dat", true, false},
-              {u"sub/run.dat", true, false}, {u"sub\\?un.*", true, false},      {u"s*", false, true},
-              {u"none", false, false},       {u"sub\\run.dat\\", false, false}, {u"none\\run.dat", false, false}};
+  } rows[] = {{u"sub", false, true},
+              {u"sub\\*.*", false, true},  // "." comes first
+              {u"sub\\", false, true},
+              {u"sub\\run.dat", true, false},
+              {u"sub/run.dat", true, false},
+              {u"sub\\?un.*", true, false},
+              {u"s*", false, true},
+              {u"none", false, false},
+              {u"sub\\run.dat\\", false, false},
+              {u"none\\run.dat", false, false}};
   for (const auto& [name, isFile, isFolder] : rows) {
     EXPECT_EQ(GCFileUtil::FileExists(folder_.Name(name)), isFile) << ToUtf8(name);
     EXPECT_EQ(GCFileUtil::PathExists(folder_.Name(name)), isFolder) << ToUtf8(name);
   }
   for (const char16_t* name : {u"", u"C:\\", u"C:"}) EXPECT_FALSE(GCFileUtil::PathExists(name));
+  const auto identity = [&](const char16_t* pName) { return os::IdentityOf(folder_.Name(pName)); };
+  EXPECT_TRUE(identity(u"sub") && identity(u"sub") == identity(u"sub\\..\\sub\\"));
+  EXPECT_NE(identity(u"sub"), identity(u""));
+  EXPECT_EQ(identity(u"sub\\run.dat"), std::nullopt);
 }
 
 TEST_F(FileUtil, MakesEntersAndRemovesFolders) {

@@ -177,6 +177,9 @@ TEST(TimeStamps, AddTheBiasOfTheSeason) {
     EXPECT_EQ(stamp.LocalTime, MakeDate({2024, 2, 29, 23, 30, 15}));
     EXPECT_EQ(stamp.UniversalTime, universal);
   }
+  // The time of day counts upward before day 0 too.
+  EXPECT_EQ(ModBase::DateOf({1899, 12, 28, 6, 0, 0}).days, -2.25);
+  EXPECT_EQ(ModBase::DateOf({}), Date());
   constexpr double kEpoch = 25569;  // 1970-01-01
   const std::chrono::duration<double, std::ratio<86400>> now = std::chrono::system_clock::now().time_since_epoch();
   EXPECT_NEAR(GCBase::NewTimeStamp().UniversalTime.days, kEpoch + now.count(), 61.0 / 86400);

@@ -30,6 +30,32 @@ TEST(WindowsServices, ATimerStopsAWait) {
   EXPECT_EQ(message.wParam, 7U);
 }
 
+// A window that posts a message from the handler of each, so that its queue is never empty.
+TEST(WindowsServices, AFloodOfMessagesHoldsUpNeitherTheStopFlagNorTheEndOfAWait) {
+  static int handled = 0;
+  WNDCLASSW type{};
+  type.lpszClassName = L"QZBaseFlood";
+  type.lpfnWndProc = [](HWND pWindow, UINT pMessage, WPARAM pFirst, LPARAM pSecond) -> LRESULT {
+    if (pMessage != WM_APP) return DefWindowProcW(pWindow, pMessage, pFirst, pSecond);
+    if (++handled == 5) GCBase::LetStopFlag(true);
+    PostMessageW(pWindow, WM_APP, 0, 0);
+    return 0;
+  };
+  ASSERT_NE(RegisterClassW(&type), 0);
+  const HWND window = CreateWindowW(type.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  ASSERT_NE(window, nullptr);
+  PostMessageW(window, WM_APP, 0, 0);
+  GCBase::WaitSecs(60);
+  EXPECT_TRUE(GCBase::StopFlag());
+  GCBase::LetStopFlag(false);
+  const std::int32_t start = GCBase::TimeInCentiSecs();
+  GCBase::WaitSecs(0.1);
+  EXPECT_LT(GCBase::TimeInCentiSecs() - start, 1000);
+  EXPECT_GT(handled, 5);
+  DestroyWindow(window);
+  UnregisterClassW(type.lpszClassName, nullptr);
+}
+
 TEST(WindowsServices, DebugLinesInAnOpenFile) {
   HANDLE reader = nullptr;
   HANDLE writer = nullptr;
