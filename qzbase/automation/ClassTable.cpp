@@ -11,26 +11,9 @@
 
 #include "qzbase/automation/Identities.h"
 #include "qzbase/automation/NameIndex.h"
-#include "qzbase/automation/RoomEntries.h"
-#include "qzbase/automation/members/Core.h"
-#include "qzbase/automation/members/Data.h"
-#include "qzbase/automation/members/Desc.h"
-#include "qzbase/automation/members/Layout.h"
-#include "qzbase/automation/members/Locale.h"
-#include "qzbase/automation/members/Persist.h"
-#include "qzbase/automation/members/Platform.h"
 #include "qzbase/runtime/AutomationError.h"
 
 namespace qzbase::automation {
-
-extern template struct RoomEntries<CoreClasses>;
-extern template struct RoomEntries<TextClasses>;
-extern template struct RoomEntries<PersistClasses>;
-extern template struct RoomEntries<DescClasses>;
-extern template struct RoomEntries<DataClasses>;
-extern template struct RoomEntries<LayoutClasses>;
-extern template struct RoomEntries<PlatformClasses>;
-extern template struct RoomEntries<LocaleClasses>;
 
 namespace {
 
@@ -41,19 +24,12 @@ using runtime::Ref;
 using runtime::RuntimeError;
 using runtime::Variant;
 
-template <class... Room>
-constexpr std::array<std::span<const ClassEntry>, sizeof...(Room)> EntriesOf(TypeList<Room...>) {
-  return {RoomEntries<Room>::kEntries...};
-}
-
-constexpr auto kRooms = EntriesOf(Rooms());
-
 // All classes, and a hash table of their types. Types are looked up by address: within one program a type has one.
 class ClassList {
  public:
   ClassList() {
     std::size_t count = 0;
-    for (const auto room : kRooms)
+    for (const auto room : ForEachRoom([]<Room kRoom> { return EntriesOfRoom<kRoom>(); }))
       for (const ClassEntry& entry : room) all_[count++] = &entry;
     for (const ClassEntry* entry : all_) {
       std::size_t at = BucketOf(*entry->type);
@@ -87,19 +63,6 @@ const ClassList& List() {
   return list;
 }
 
-template <class... R>
-constexpr std::array<RecordEntry, sizeof...(R)> MakeRecords(TypeList<R...>) {
-  return {RecordEntry{&recordDesc<R>, [] { return Ref<Record>(runtime::New<RecordObject<R>>()); }}...};
-}
-
-template <class... E>
-constexpr std::array<EnumDesc, sizeof...(E)> MakeEnumerations(TypeList<E...>) {
-  return {enumDesc<E>...};
-}
-
-constexpr auto kRecords = MakeRecords(AllRecords());
-constexpr auto kEnumerations = MakeEnumerations(AllEnumerations());
-
 // An object that only knows positional arguments in a row.
 Variant InvokeForeign(Object& pObject, std::u16string_view pName, CallKind pKind,
                       std::span<Variant* const> pArguments) {
@@ -118,14 +81,6 @@ Variant InvokeForeign(Object& pObject, std::u16string_view pName, CallKind pKind
 
 std::span<const ClassEntry* const> Classes() {
   return List().All();
-}
-
-std::span<const RecordEntry> Records() {
-  return kRecords;
-}
-
-std::span<const EnumDesc> Enumerations() {
-  return kEnumerations;
 }
 
 const ClassEntry* FindClass(std::u16string_view pName) {

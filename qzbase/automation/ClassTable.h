@@ -34,12 +34,4 @@ runtime::Ref<runtime::Object> CreateObject(std::u16string_view pProgId);
 runtime::Variant Invoke(runtime::Object& pObject, std::u16string_view pName, runtime::CallKind pKind,
                         std::span<runtime::Variant* const> pArguments, std::span<const NamedArgument> pNamed = {});
 
-struct RecordEntry {
-  const RecordDesc* desc = nullptr;
-  runtime::Ref<Record> (*create)() = nullptr;  // all fields zero
-};
-
-std::span<const RecordEntry> Records();
-std::span<const EnumDesc> Enumerations();
-
 }  // namespace qzbase::automation

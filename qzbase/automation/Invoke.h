@@ -15,7 +15,7 @@
 //   450  more arguments than parameters           13, 6, 94  an argument does not convert (runtime/Convert.h)
 //   449  an argument is missing                   91   an object that must be set is not
 //
-// Whatever the member raises, arrives as it is.
+// Whatever the member raises, arrives as it is. ArgumentList.h and Call.h do the same for callers by automation.
 #pragma once
 
 #include <cstddef>
@@ -33,21 +33,14 @@ struct NamedArgument {
   runtime::Variant* value = nullptr;
 };
 
-// `pObject` is of the class of `pEntry`. Neither allocates memory but for texts, arrays, objects and defaults.
+// `pObject` is of the class of `pEntry`. Neither allocates memory but for texts, arrays and objects.
 runtime::Variant InvokeById(const ClassEntry& pEntry, runtime::Object& pObject, MemberId pId, runtime::CallKind pKind,
                             std::span<runtime::Variant* const> pArguments, std::span<const NamedArgument> pNamed = {});
 runtime::Variant InvokeByName(const ClassEntry& pEntry, runtime::Object& pObject, std::u16string_view pName,
                               runtime::CallKind pKind, std::span<runtime::Variant* const> pArguments,
                               std::span<const NamedArgument> pNamed = {});
 
-// The two steps of a call, for callers that need the row's parameters in between: the row that a call reaches, and the
-// call of it.
-std::size_t SelectRow(const MemberTable& pTable, MemberId pId, runtime::CallKind pKind,
-                      std::span<runtime::Variant* const> pArguments);
-runtime::Variant InvokeRow(const ClassEntry& pEntry, runtime::Object& pObject, std::size_t pRow,
-                           std::span<runtime::Variant* const> pArguments, std::span<const NamedArgument> pNamed = {});
-
-// The default as the argument that it stands for; the parameter is optional.
-runtime::Variant DefaultOf(const ParameterDesc& pParameter);
+// The row that a call reaches. `pIsObject` tells of the new value of a let or set.
+std::size_t SelectRow(const MemberTable& pTable, MemberId pId, runtime::CallKind pKind, bool pIsObject);
 
 }  // namespace qzbase::automation

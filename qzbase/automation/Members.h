@@ -10,25 +10,22 @@
 // A row names the function and its parameters, types come from the function's signature. The function may be a member
 // of the class or of a base, or static. A let or set takes the new value last; that parameter is not named. One row of
 // each member says in one line what the member does. `byRef("X")` marks a parameter that callers pass by reference
-// although the function does not change it. A fault in a table stops the compiler, which then names one of the
-// functions `Fault...` below.
+// although the function does not change it, `out("X")` one that it sets whatever was there. A fault in a table stops
+// the compiler, which then names one of the functions `Fault...` below.
 //
 // Members have ids, counted from 1 in order of first appearance: get, let and set of one name share one, and the
 // default member has 0. Names are found ignoring case.
 //
-// What the automation server, the type library and every other face of a class are made from:
+// What the automation server, the type library and every other way to a class are made from:
 //
 //   identity<C>                  name, GUIDs, help and whether the class is a global one (Identities.h)
 //   members<C>.rows[i]           name, help, kind, id, result type, marks of slot i
 //   memberTable<C>               the same without types, with look-up: Parameters(row), Find(name), rowsOfId
-//   MemberOf<C, i>::kFunction    the function itself, for stubs: Signature<decltype(kFunction)> has its C++ types
-//   MemberOf<C, i>::kParameters  name, default and border type of each parameter, known to the compiler
+//   MemberOf<C, i>::kFunction    the function itself: Signature<decltype(kFunction)> has its C++ types
+//   MemberOf<C, i>::kParameters  what is known of each parameter, known to the compiler
 //   fields<R>, items<E>          the fields of a record, the items of an enumeration
 //
-// Stubs go by the C++ types for the conversion and by `isByRef` of the border type for the way a parameter is passed:
-// it is true for every parameter that the function may change, and for those marked. A parameter of a type `const T&`
-// or `T&` for a class T must be set (91); arguments are converted from left to right. What is written back, is written
-// only after the whole call and the conversion of its result succeeded. Thunk.h does all this for late binding.
+// Call.h makes the calls, the same for every way.
 //
 // Include the tables before any system header of Windows, whose macros rename members.
 #pragma once
@@ -68,7 +65,7 @@ constexpr bool DefaultFits(const ParameterDesc& pParameter) {
   if (base == BaseType::Variant) return true;
   switch (kind) {
     case Kind::Unset:
-      return (base == BaseType::Object || base == BaseType::Class) && !pParameter.type.mustBeSet;
+      return (base == BaseType::Object || base == BaseType::Class) && !pParameter.mustBeSet;
     case Kind::Boolean:
       return base == BaseType::Boolean;
     case Kind::Text:

@@ -38,11 +38,25 @@ struct DefaultValue {
   std::u16string_view text{};
 };
 
+// How a parameter's argument goes to the member and what comes back.
+enum class Passing : std::uint8_t {
+  Value,    // handed over
+  Whole,    // handed over, of whatever kind it is, and handed back as it came where it is the result
+  Pointer,  // by reference, as the callers' programs want it; the member does not change it
+  Change,   // by reference: the caller's variable changes when the member has changed it, and else is not touched
+  Output,   // by reference: the caller's variable always takes what the member has made of it
+};
+
+// All that is known of a parameter.
 struct ParameterDesc {
   std::string_view name;
-  DefaultValue defaultValue;
   TypeDesc type;
+  Passing passing = Passing::Value;
+  bool mustBeSet = false;  // an unset object raises error 91 before the member is called
+  DefaultValue defaultValue;
 
+  constexpr bool IsByRef() const { return passing == Passing::Pointer || MayChange(); }
+  constexpr bool MayChange() const { return passing == Passing::Change || passing == Passing::Output; }
   constexpr bool IsOptional() const { return defaultValue.kind != DefaultValue::Kind::None; }
 };
 
@@ -71,7 +85,7 @@ struct Parameter {
 
   const char* name;
   DefaultValue defaultValue;
-  bool isByRef = false;
+  Passing passing = Passing::Value;
 };
 
 // An optional variant or object, which then is empty or unset.
@@ -95,7 +109,19 @@ constexpr Parameter opt(const char* pName, T pDefault) {
 }
 
 constexpr Parameter byRef(Parameter pParameter) {
-  pParameter.isByRef = true;
+  pParameter.passing = Passing::Pointer;
+  return pParameter;
+}
+
+// Of a parameter `const Variant&` of a function that returns one of its arguments.
+constexpr Parameter whole(Parameter pParameter) {
+  pParameter.passing = Passing::Whole;
+  return pParameter;
+}
+
+// Of a parameter `T&`: the variable is stored in any case, also where the value in it happens to be the same.
+constexpr Parameter out(Parameter pParameter) {
+  pParameter.passing = Passing::Output;
   return pParameter;
 }
 
@@ -137,17 +163,32 @@ struct Row : Rows<kFunction> {
   // The new value of a let is passed by reference.
   constexpr Row valueByRef() const {
     Row row = *this;
-    row.parameters.back().type.isByRef = true;
+    row.parameters.back().passing = Passing::Pointer;
     return row;
   }
 };
 
 namespace detail {
 
-template <class... Declared>
-constexpr std::array<TypeDesc, sizeof...(Declared)> DescribeAll(TypeList<Declared...>) {
-  return {Describe<Declared>()...};
+// What the declaration of a parameter says.
+template <class Declared>
+constexpr ParameterDesc DescribeParameter() {
+  using Referred = std::remove_reference_t<Declared>;
+  ParameterDesc parameter;
+  parameter.type = Describe<Declared>();
+  parameter.mustBeSet = ObjectType<std::remove_cv_t<Referred>>;
+  const bool isVariable = std::is_lvalue_reference_v<Declared> && !std::is_const_v<Referred>;
+  if (isVariable && !parameter.mustBeSet) parameter.passing = Passing::Change;
+  return parameter;
 }
+
+template <class... Declared>
+constexpr std::array<ParameterDesc, sizeof...(Declared)> DescribeAll(TypeList<Declared...>) {
+  return {DescribeParameter<Declared>()...};
+}
+
+// Never defined: calling it while a table is made stops the compiler, which then says its name.
+void FaultPassingDoesNotFitItsParameter();
 
 // Makes the rows of one function and kind. A template, so that the four kinds have their forms in common.
 template <auto kFunction, MemberKind kKind>
@@ -181,13 +222,17 @@ struct RowMaker {
     row.help = pHelp;
     row.kind = kKind;
     row.parameterCount = static_cast<std::uint8_t>(result.parameters.size());
-    row.result = DescribeValue<std::remove_cvref_t<typename Parts::Result>>();
-    const auto types = DescribeAll(typename Parts::Parameters{});
+    row.result = Describe<typename Parts::Result>();
+    result.parameters = DescribeAll(typename Parts::Parameters{});
     for (std::size_t i = 0; i < kNamed; ++i) {
-      result.parameters[i] = {pNamed[i].name, pNamed[i].defaultValue, types[i]};
-      result.parameters[i].type.isByRef |= pNamed[i].isByRef;
+      ParameterDesc& parameter = result.parameters[i];
+      parameter.name = pNamed[i].name;
+      parameter.defaultValue = pNamed[i].defaultValue;
+      if (pNamed[i].passing == Passing::Value) continue;
+      if (parameter.MayChange() != (pNamed[i].passing == Passing::Output)) FaultPassingDoesNotFitItsParameter();
+      parameter.passing = pNamed[i].passing;
     }
-    if constexpr (kIsPut) result.parameters.back() = {kNewValueName, {}, types.back()};
+    if constexpr (kIsPut) result.parameters.back().name = kNewValueName;
     return result;
   }
 };

@@ -1,10 +1,9 @@
-// What a C++ type is at the automation border: the types of parameters, results and fields, deduced from signatures.
+// What a C++ type is to callers by automation: the types of parameters, results and fields, deduced from signatures.
 //
-//   std::u16string_view                     Text          const CBuffer&, CBuffer&      Class "CBuffer", must be set
-//   std::u16string&                         Text, by ref  CBuffer*, Ref<CBuffer>        Class "CBuffer", may be unset
-//   std::int16_t, std::int32_t, float, ...  Integer, ...  runtime::Object&              Object (any), must be set
-//   QZVarType                               Enumeration   Ref<runtime::Object>          Object (any), may be unset
-//   TErrDesc, const TErrDesc&               Record        runtime::Array<E>             E, array
+//   std::u16string_view, std::u16string     Text          CBuffer&, CBuffer*, Ref<CBuffer>    Class "CBuffer"
+//   std::int16_t, std::int32_t, float, ...  Integer, ...  runtime::Object&, Ref<...>          Object (any)
+//   QZVarType                               Enumeration   runtime::Array<E>                   E, array
+//   TErrDesc                                Record
 //
 // A class, record or enumeration can be used once it has an identity, a name and its GUIDs (Identities.h).
 #pragma once
@@ -27,7 +26,7 @@ namespace qzbase::automation {
 
 enum class IdentityKind : std::uint8_t {
   None,
-  Class,        // created for each use
+  ObjectClass,  // created for each use
   GlobalClass,  // its members can be called without creating an object
   Record,
   Enumeration,
@@ -40,19 +39,6 @@ struct Identity {
   std::string_view interfaceGuid;  // of a class
   std::string_view help;           // one line
 };
-
-constexpr Identity ObjectClass(const char* pName, const char* pGuid, const char* pInterfaceGuid, const char* pHelp) {
-  return {IdentityKind::Class, pName, pGuid, pInterfaceGuid, pHelp};
-}
-constexpr Identity GlobalClass(const char* pName, const char* pGuid, const char* pInterfaceGuid, const char* pHelp) {
-  return {IdentityKind::GlobalClass, pName, pGuid, pInterfaceGuid, pHelp};
-}
-constexpr Identity RecordNamed(const char* pName, const char* pGuid, const char* pHelp) {
-  return {IdentityKind::Record, pName, pGuid, {}, pHelp};
-}
-constexpr Identity EnumerationNamed(const char* pName, const char* pGuid, const char* pHelp) {
-  return {IdentityKind::Enumeration, pName, pGuid, {}, pHelp};
-}
 
 // Specialised once for every class, record and enumeration of the public face.
 template <class T>
@@ -78,15 +64,10 @@ enum class BaseType : std::uint8_t {
 struct TypeDesc {
   BaseType base = BaseType::Void;
   bool isArray = false;
-  bool isByRef = false;          // the caller's variable may change
-  bool mustBeSet = false;        // an unset object raises error 91 before the member is called
   std::uint8_t fixedLength = 0;  // of an array within a record, from index 0
   std::string_view name;         // of a class, record or enumeration
 
-  // The same kind of value, however it is passed.
-  constexpr bool SameValueAs(const TypeDesc& pOther) const {
-    return base == pOther.base && isArray == pOther.isArray && fixedLength == pOther.fixedLength && name == pOther.name;
-  }
+  constexpr bool operator==(const TypeDesc&) const = default;
 };
 
 template <class... T>
@@ -104,14 +85,16 @@ struct Joined<TypeList<T...>> {
 };
 template <class... T, class... U, class... List>
 struct Joined<TypeList<T...>, TypeList<U...>, List...> : Joined<TypeList<T..., U...>, List...> {};
+template <class Lists>
+struct JoinedOf;
+template <class... List>
+struct JoinedOf<TypeList<List...>> : Joined<List...> {};
 
 }  // namespace detail
 
 // The members of all lists of a list.
 template <class Lists>
-using JoinLists = typename decltype([]<class... List>(TypeList<List...>) {
-  return detail::Joined<List...>{};
-}(Lists()))::Type;
+using JoinLists = typename detail::JoinedOf<Lists>::Type;
 
 // The parts of a member function, static function or free function.
 template <class Function>
@@ -205,24 +188,25 @@ concept RecordType = identity<T>
 // A class whose objects are passed: by reference (they must be set), or by pointer or `Ref` (they may be unset).
 template <class T>
 concept ObjectType = std::same_as<T, runtime::Object> || identity<T>
-.kind == IdentityKind::Class || identity<T>.kind == IdentityKind::GlobalClass;
+.kind == IdentityKind::ObjectClass || identity<T>.kind == IdentityKind::GlobalClass;
 
-// The type of a value, stripped of const and reference.
-template <class T>
-constexpr TypeDesc DescribeValue() {
+// The type of a parameter, result or field as declared.
+template <class Declared>
+constexpr TypeDesc Describe() {
+  using T = std::remove_cvref_t<Declared>;
   if constexpr (std::is_void_v<T>) {
     return {};
   } else if constexpr (detail::kPlainType<T> != BaseType::Void) {
     return detail::Plain(detail::kPlainType<T>);
   } else if constexpr (detail::kIsArray<T> || detail::kFixedLength<T> != 0) {
-    TypeDesc type = DescribeValue<typename T::value_type>();
+    TypeDesc type = Describe<typename T::value_type>();
     type.isArray = true;
     type.fixedLength = detail::kFixedLength<T>;
     return type;
   } else if constexpr (detail::kIsRef<T>) {
-    return DescribeValue<std::remove_const_t<typename T::element_type>>();
+    return Describe<typename T::element_type>();
   } else if constexpr (std::is_pointer_v<T>) {
-    return DescribeValue<std::remove_const_t<std::remove_pointer_t<T>>>();
+    return Describe<std::remove_pointer_t<T>>();
   } else if constexpr (identity<T>.kind != IdentityKind::None) {
     return detail::Named(identity<T>);
   } else {
@@ -230,16 +214,9 @@ constexpr TypeDesc DescribeValue() {
   }
 }
 
-// The type of a parameter or result as declared.
+// The type that holds a value of a declared type.
 template <class Declared>
-constexpr TypeDesc Describe() {
-  using Value = std::remove_cvref_t<Declared>;
-  TypeDesc type = DescribeValue<Value>();
-  if constexpr (ObjectType<Value>)
-    type.mustBeSet = true;
-  else
-    type.isByRef = std::is_lvalue_reference_v<Declared> && !std::is_const_v<std::remove_reference_t<Declared>>;
-  return type;
-}
+using ValueOf = std::conditional_t<std::is_same_v<std::remove_cvref_t<Declared>, std::u16string_view>, std::u16string,
+                                   std::remove_cvref_t<Declared>>;
 
 }  // namespace qzbase::automation

@@ -5,7 +5,7 @@
 //   Peek(variant)           the value inside when it is of exactly this type, else null: nothing is copied
 //   From(variant)           the value converted; raises 13 (type mismatch), 6 (overflow), 94 (null) or 91 (unset)
 //   To(value)               as a variant of the nearest kind: bytes as 16-bit, enumerations as 32-bit integers
-//   ToLike(variant, value)  the same for a caller's variable, whose array keeps the type of its elements
+//   ToLike(variant, value)  for arrays: the same for a caller's variable, which keeps the type of its elements
 //
 // A record travels as an object (RecordObject.h), an array of records as an array of objects. An empty variable is an
 // unallocated array and an unset object; null is an unset object too.
@@ -40,7 +40,6 @@ struct PlainValue {
   static const T* Peek(const runtime::Variant& pVariant) noexcept { return pVariant.If<T>(); }
   static T From(const runtime::Variant& pVariant) { return kConvert(pVariant, runtime::ThreadLocale()); }
   static runtime::Variant To(T pValue) { return runtime::Variant(std::move(pValue)); }
-  static runtime::Variant ToLike(const runtime::Variant&, T pValue) { return To(std::move(pValue)); }
 };
 
 }  // namespace detail
@@ -64,7 +63,6 @@ template <>
 struct VariantValue<std::uint8_t> : detail::PlainValue<std::uint8_t, runtime::ToByte> {
   static const std::uint8_t* Peek(const runtime::Variant&) noexcept { return nullptr; }
   static runtime::Variant To(std::uint8_t pValue) { return runtime::Variant(std::int16_t{pValue}); }
-  static runtime::Variant ToLike(const runtime::Variant&, std::uint8_t pValue) { return To(pValue); }
 };
 
 template <>
@@ -72,7 +70,6 @@ struct VariantValue<runtime::Variant> {
   static const runtime::Variant* Peek(const runtime::Variant& pVariant) noexcept { return &pVariant; }
   static runtime::Variant From(const runtime::Variant& pVariant) { return pVariant; }
   static runtime::Variant To(runtime::Variant pValue) { return pValue; }
-  static runtime::Variant ToLike(const runtime::Variant&, runtime::Variant pValue) { return pValue; }
 };
 
 template <class E>
@@ -85,7 +82,6 @@ struct VariantValue<E> {
     return static_cast<E>(number ? *number : runtime::ToLong(pVariant));
   }
   static runtime::Variant To(E pValue) { return runtime::Variant(pValue); }
-  static runtime::Variant ToLike(const runtime::Variant&, E pValue) { return To(pValue); }
 };
 
 // ---- Objects.
@@ -118,7 +114,6 @@ struct VariantValue<runtime::Ref<C>> {
   static runtime::Variant To(runtime::Ref<C> pValue) {
     return runtime::Variant(std::const_pointer_cast<std::remove_const_t<C>>(std::move(pValue)));
   }
-  static runtime::Variant ToLike(const runtime::Variant&, runtime::Ref<C> pValue) { return To(std::move(pValue)); }
 };
 
 // ---- Arrays.

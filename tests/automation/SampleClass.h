@@ -73,11 +73,11 @@ using tests::SamplePoint;
 using tests::SampleShade;
 
 template <>
-inline constexpr Identity identity<Sample> = ObjectClass("Sample", "", "", "A sample.");
+inline constexpr Identity identity<Sample> = {IdentityKind::ObjectClass, "Sample", "", "", "A sample."};
 template <>
-inline constexpr Identity identity<SamplePoint> = RecordNamed("SamplePoint", "", "A record.");
+inline constexpr Identity identity<SamplePoint> = {IdentityKind::Record, "SamplePoint", "", "", "A record."};
 template <>
-inline constexpr Identity identity<SampleShade> = EnumerationNamed("SampleShade", "", "An enumeration.");
+inline constexpr Identity identity<SampleShade> = {IdentityKind::Enumeration, "SampleShade", "", "", "An enumeration."};
 
 template <>
 inline constexpr auto fields<SamplePoint> = record(field<&SamplePoint::X>("X", "A number."),

@@ -97,6 +97,9 @@ On Error Resume Next
 resource.SetLocalizedStrings Texts("To" & Chr(0) & "nach"), Texts("")
 Check "another text", Err.Number & " " & Err.Description
 Err.Clear
+resource.SetLocalizedStrings Texts("New" & Chr(0) & "neu"), Nothing
+Check "no messages", Err.Number & " " & resource.LocalizedString("New")
+Err.Clear
 resource.SetGUIProperty box, "Missing", "x"
 Check "no property", Err.Number
 Err.Clear

@@ -45,7 +45,7 @@ a = math.Inc(n)
 Check "increment past the end", Err.Number & " " & n
 Err.Clear
 n = math.CalcMean(Nothing, mean, deviation)
-Check "no vector", Err.Number
+Check "no vector", n & " " & Err.Number & " " & mean
 Err.Clear
 n = math.CalcMean(math, mean, deviation)
 Check "an object of another class", Err.Number

@@ -67,7 +67,6 @@ os::LocaleRules ReadLocale(std::string_view pName) {
   rules.longDate = item["longdate"];
   rules.longTime = item["timefmt"];
   rules.shortTime = item["shorttime"];
-  rules.dateOrder = static_cast<os::DateOrder>(number("idate"));
   rules.am = item["am"];
   rules.pm = item["pm"];
   rules.firstDayOfWeek = number("firstday");

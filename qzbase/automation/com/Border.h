@@ -100,7 +100,7 @@ template <>
 struct Border<runtime::Variant> {
   using Native = VARIANT;
   static constexpr VARTYPE kVarType = VT_VARIANT;
-  static runtime::Variant From(const Native& pNative) { return FromVariant(pNative); }
+  static runtime::Variant From(const Native& pNative) { return FromVariant(pNative, Digits::All); }
   static Native To(const runtime::Variant& pValue) { return ToVariant(pValue); }
   static void Clear(Native& pNative) noexcept { ClearVariant(pNative); }
 };

@@ -1,7 +1,7 @@
 #include "qzbase/automation/com/ClassFactory.h"
 
 #include "qzbase/automation/com/ErrorBorder.h"
-#include "qzbase/automation/com/ObjectBorder.h"
+#include "qzbase/automation/com/OuterFace.h"
 
 namespace qzbase::automation::com {
 
@@ -28,8 +28,8 @@ HRESULT ClassFactory::CreateInstance(IUnknown* pOuter, REFIID pId, void** pResul
   if (!pResult) return E_POINTER;
   *pResult = nullptr;
   if (pOuter) return CLASS_E_NOAGGREGATION;
-  return Guard(&face_, [&] {
-    const ComRef<IDispatch> fresh(ToDispatch(face_.entry->create()));
+  return Guard(&class_, [&] {
+    const ComRef<IDispatch> fresh(OuterFace::Of(class_, class_.entry->create())->AsDispatch());
     return fresh->QueryInterface(pId, pResult);
   });
 }

@@ -3,14 +3,14 @@
 
 #include <atomic>
 
-#include "qzbase/automation/com/Faces.h"
 #include "qzbase/automation/com/Module.h"
+#include "qzbase/automation/com/ServerClasses.h"
 
 namespace qzbase::automation::com {
 
 class ClassFactory final : public IClassFactory {
  public:
-  explicit ClassFactory(const Face& pFace) noexcept : face_(pFace) {}
+  explicit ClassFactory(const ServerClass& pClass) noexcept : class_(pClass) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID pId, void** pResult) override;
   ULONG STDMETHODCALLTYPE AddRef() override;
@@ -23,7 +23,7 @@ class ClassFactory final : public IClassFactory {
  private:
   ~ClassFactory() = default;
 
-  const Face& face_;
+  const ServerClass& class_;
   std::atomic<ULONG> references_ = 1;
   const ModuleLock lock_;
 };

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "qzbase/automation/Identities.h"
-#include "qzbase/automation/com/Faces.h"
+#include "qzbase/automation/com/ServerClasses.h"
 
 namespace qzbase::automation::com {
 namespace {
@@ -14,31 +14,29 @@ using runtime::AutomationError;
 using runtime::ErrorRecord;
 using runtime::RuntimeError;
 
-constexpr std::int32_t kFirstRegisteredError = 1001;
 constexpr std::int32_t kLastPlainNumber = 65535;
 constexpr HRESULT kControlFacility = static_cast<HRESULT>(0x800A0000);
 
 struct KnownResult {
   HRESULT result;
   RuntimeError error;
-  bool isCallFault;  // the late-bound call itself went wrong
 };
 
 // The first row of an error is the one that is handed out.
 constexpr KnownResult kKnownResults[] = {
-    {DISP_E_MEMBERNOTFOUND, RuntimeError::MemberNotFound, true},
-    {DISP_E_UNKNOWNNAME, RuntimeError::MemberNotFound, true},
-    {DISP_E_PARAMNOTFOUND, RuntimeError::NamedArgumentNotFound, true},
-    {DISP_E_PARAMNOTOPTIONAL, RuntimeError::ArgumentNotOptional, true},
-    {DISP_E_BADPARAMCOUNT, RuntimeError::WrongNumberOfArguments, true},
-    {DISP_E_TYPEMISMATCH, RuntimeError::TypeMismatch, false},
-    {DISP_E_OVERFLOW, RuntimeError::Overflow, false},
-    {DISP_E_BADINDEX, RuntimeError::SubscriptOutOfRange, false},
-    {DISP_E_DIVBYZERO, RuntimeError::DivisionByZero, false},
-    {DISP_E_ARRAYISLOCKED, RuntimeError::ArrayFixed, false},
-    {E_INVALIDARG, RuntimeError::InvalidArgument, false},
-    {E_OUTOFMEMORY, RuntimeError::OutOfMemory, false},
-    {E_ACCESSDENIED, RuntimeError::PermissionDenied, false},
+    {DISP_E_MEMBERNOTFOUND, RuntimeError::MemberNotFound},
+    {DISP_E_UNKNOWNNAME, RuntimeError::MemberNotFound},
+    {DISP_E_PARAMNOTFOUND, RuntimeError::NamedArgumentNotFound},
+    {DISP_E_PARAMNOTOPTIONAL, RuntimeError::ArgumentNotOptional},
+    {DISP_E_BADPARAMCOUNT, RuntimeError::WrongNumberOfArguments},
+    {DISP_E_TYPEMISMATCH, RuntimeError::TypeMismatch},
+    {DISP_E_OVERFLOW, RuntimeError::Overflow},
+    {DISP_E_BADINDEX, RuntimeError::SubscriptOutOfRange},
+    {DISP_E_DIVBYZERO, RuntimeError::DivisionByZero},
+    {DISP_E_ARRAYISLOCKED, RuntimeError::ArrayFixed},
+    {E_INVALIDARG, RuntimeError::InvalidArgument},
+    {E_OUTOFMEMORY, RuntimeError::OutOfMemory},
+    {E_ACCESSDENIED, RuntimeError::PermissionDenied},
 };
 
 HRESULT ResultOfNumber(std::int32_t pNumber) noexcept {
@@ -48,7 +46,7 @@ HRESULT ResultOfNumber(std::int32_t pNumber) noexcept {
 
 ErrorRecord StandardRecord(RuntimeError pError) {
   const auto number = static_cast<std::int32_t>(pError);
-  return {number, {}, std::u16string(runtime::StandardErrorText(number))};
+  return {number, {}, std::u16string(runtime::StandardErrorText(number)), true};
 }
 
 // The one place where exceptions become errors. Rethrows what is no error but a fault of the caller.
@@ -56,7 +54,7 @@ ErrorRecord CurrentError() {
   try {
     throw;
   } catch (const AutomationError& error) {
-    return {error.Number(), error.Source(), error.Description()};
+    return error.Record();
   } catch (const NullPointer&) {
     throw;
   } catch (const std::bad_alloc&) {
@@ -66,17 +64,17 @@ ErrorRecord CurrentError() {
   }
 }
 
-void CompleteSource(ErrorRecord& pError, const Face* pFace) {
-  if (!pError.source.empty() || pError.number >= kFirstRegisteredError) return;
-  pError.source = pFace ? ProgId(*pFace) : Widen(kLibraryName);
+void CompleteSource(ErrorRecord& pError, const ServerClass* pClass) {
+  if (!pError.isRuntime) return;
+  pError.source = pClass ? ProgId(*pClass) : Widen(kLibraryName);
 }
 
-void SetThreadError(const ErrorRecord& pError, const Face* pFace) {
+void SetThreadError(const ErrorRecord& pError, const ServerClass* pClass) {
   ComRef<ICreateErrorInfo> fresh;
   if (FAILED(CreateErrorInfo(fresh.Put()))) return;
   const OwnedText source(pError.source);
   const OwnedText description(pError.description);
-  fresh->SetGUID(pFace ? pFace->interfaceId : GUID_NULL);
+  fresh->SetGUID(pClass ? pClass->interfaceId : GUID_NULL);
   fresh->SetSource(source.Get());
   fresh->SetDescription(description.Get());
   if (const auto info = fresh.As<IErrorInfo>(IID_IErrorInfo)) SetErrorInfo(0, info.Get());
@@ -90,46 +88,59 @@ void FillIn(EXCEPINFO& pInfo, const ErrorRecord& pError) {
   pInfo.bstrSource = source.Release();
 }
 
-// The platform's own result where an error is a fault of the call, else S_OK.
-HRESULT CallFault(const ErrorRecord& pError) noexcept {
-  if (!pError.source.empty()) return S_OK;
-  for (const KnownResult& known : kKnownResults)
-    if (known.isCallFault && static_cast<std::int32_t>(known.error) == pError.number) return known.result;
-  return S_OK;
-}
-
-// Calls `pReport` with the current error; what fails meanwhile, leaves the bare result.
+// Calls `pReport` with the current error; what fails meanwhile leaves the bare number.
 template <class Report>
-HRESULT ReportCurrent(const Face* pFace, Report pReport) noexcept {
-  HRESULT result = ResultOfNumber(static_cast<std::int32_t>(RuntimeError::OutOfMemory));
+HRESULT ReportCurrent(const ServerClass* pClass, Report pReport) noexcept {
+  ErrorRecord error{static_cast<std::int32_t>(RuntimeError::OutOfMemory), {}, {}, true};
   try {
-    ErrorRecord error = CurrentError();
-    result = ResultOfNumber(error.number);
-    const HRESULT fault = CallFault(error);
-    CompleteSource(error, pFace);
-    return pReport(error, result, fault);
+    error = CurrentError();
+    CompleteSource(error, pClass);
+    return pReport(error);
   } catch (const NullPointer&) {
-    return E_POINTER;
+    return NullPointerResult();
   } catch (...) {
-    return result;
+    SetErrorInfo(0, nullptr);
+    return ResultOfNumber(error.number);
   }
 }
 
 }  // namespace
 
-HRESULT ReportEarly(const Face* pFace) noexcept {
-  return ReportCurrent(pFace, [pFace](const ErrorRecord& pError, HRESULT pResult, HRESULT) {
-    SetThreadError(pError, pFace);
-    return pResult;
+HRESULT NullPointerResult() noexcept {
+  SetErrorInfo(0, nullptr);
+  return E_POINTER;
+}
+
+HRESULT ReportEarly(const ServerClass* pClass) noexcept {
+  return ReportCurrent(pClass, [pClass](const ErrorRecord& pError) {
+    SetThreadError(pError, pClass);
+    return ResultOfNumber(pError.number);
   });
 }
 
-HRESULT ReportLate(const Face* pFace, EXCEPINFO* pInfo) noexcept {
-  return ReportCurrent(pFace, [pInfo](const ErrorRecord& pError, HRESULT, HRESULT pFault) {
-    if (pFault != S_OK) return pFault;
+HRESULT ReportLate(const ServerClass* pClass, EXCEPINFO* pInfo) noexcept {
+  const HRESULT result = ReportCurrent(pClass, [pInfo](const ErrorRecord& pError) {
     if (pInfo) FillIn(*pInfo, pError);
     return DISP_E_EXCEPTION;
   });
+  if (result == DISP_E_EXCEPTION || result == E_POINTER) return result;
+  if (pInfo) *pInfo = {};
+  if (pInfo) pInfo->scode = result;
+  return DISP_E_EXCEPTION;
+}
+
+HRESULT ReportCallFault() noexcept {
+  try {
+    throw;
+  } catch (const AutomationError& error) {
+    for (const KnownResult& known : kKnownResults)
+      if (error.Is(known.error)) return known.result;
+    return ResultOfNumber(error.Number());
+  } catch (const NullPointer&) {
+    return NullPointerResult();
+  } catch (...) {
+    return E_OUTOFMEMORY;
+  }
 }
 
 std::int32_t NumberOfResult(HRESULT pResult) noexcept {
@@ -141,20 +152,20 @@ std::int32_t NumberOfResult(HRESULT pResult) noexcept {
 
 void RaiseResult(HRESULT pResult) {
   const std::int32_t number = NumberOfResult(pResult);
-  runtime::Raise(ErrorRecord{number, {}, std::u16string(runtime::StandardErrorText(number))});
+  runtime::Raise(ErrorRecord{number, {}, std::u16string(runtime::StandardErrorText(number)), true});
 }
 
 void RaiseException(EXCEPINFO& pInfo) {
   if (pInfo.pfnDeferredFillIn) pInfo.pfnDeferredFillIn(&pInfo);
+  const OwnedText source = OwnedText::Owning(pInfo.bstrSource);
+  const OwnedText description = OwnedText::Owning(pInfo.bstrDescription);
+  SysFreeString(pInfo.bstrHelpFile);
   ErrorRecord error;
   error.number = pInfo.wCode != 0 ? pInfo.wCode : NumberOfResult(pInfo.scode);
-  error.source = TextIn(pInfo.bstrSource);
-  error.description = TextIn(pInfo.bstrDescription);
-  if (error.description.empty()) error.description = runtime::StandardErrorText(error.number);
-  SysFreeString(pInfo.bstrSource);
-  SysFreeString(pInfo.bstrDescription);
-  SysFreeString(pInfo.bstrHelpFile);
   pInfo = {};
+  error.source = TextIn(source.Get());
+  error.description = TextIn(description.Get());
+  if (error.description.empty()) error.description = runtime::StandardErrorText(error.number);
   runtime::Raise(std::move(error));
 }
 

@@ -34,7 +34,7 @@ extern "C" {
 BOOL WINAPI DllMain(HINSTANCE pModule, DWORD pReason, LPVOID pProcessEnds) {
   if (pReason == DLL_PROCESS_ATTACH) com::SetModule(pModule);
   if (pReason == DLL_PROCESS_DETACH && !pProcessEnds) {
-    com::ReleaseTypeLibrary();
+    com::EndModule();
     __gnu_cxx::__freeres();
   }
   return TRUE;
@@ -43,10 +43,10 @@ BOOL WINAPI DllMain(HINSTANCE pModule, DWORD pReason, LPVOID pProcessEnds) {
 HRESULT WINAPI DllGetClassObject(REFCLSID pClassId, REFIID pId, void** pResult) {
   if (!pResult) return E_POINTER;
   *pResult = nullptr;
-  const com::Face* face = com::FindFace(pClassId);
-  if (!face) return CLASS_E_CLASSNOTAVAILABLE;
-  return com::Guard(face, [&] {
-    const com::ComRef<IClassFactory> factory(new com::ClassFactory(*face));
+  const com::ServerClass* served = com::FindServerClass(pClassId);
+  if (!served) return CLASS_E_CLASSNOTAVAILABLE;
+  return com::Guard(served, [&] {
+    const com::ComRef<IClassFactory> factory(new com::ClassFactory(*served));
     return factory->QueryInterface(pId, pResult);
   });
 }

@@ -87,6 +87,8 @@ class OwnedText {
       : text_(SysAllocStringLen(AsWide(pText.data()), static_cast<UINT>(pText.size()))) {
     if (!text_) throw std::bad_alloc();
   }
+  static OwnedText Owning(BSTR pText) noexcept { return OwnedText(pText); }
+  OwnedText(OwnedText&& pOther) noexcept : text_(pOther.Release()) {}
   ~OwnedText() { SysFreeString(text_); }
   OwnedText(const OwnedText&) = delete;
   OwnedText& operator=(const OwnedText&) = delete;
@@ -95,6 +97,8 @@ class OwnedText {
   BSTR Release() noexcept { return std::exchange(text_, nullptr); }
 
  private:
+  explicit OwnedText(BSTR pText) noexcept : text_(pText) {}
+
   BSTR text_;
 };
 

@@ -19,6 +19,15 @@ using runtime::Variant;
 
 constexpr GUID kDispatchEx = {0xA6EF9860, 0xC720, 0x11D0, {0x93, 0x37, 0x00, 0xA0, 0xC9, 0x0D, 0xCA, 0xA9}};
 
+// What a host has answered; it may be any nonsense, such as a reference to nothing.
+Variant FromHost(const VARIANT& pVariant) {
+  try {
+    return FromVariant(pVariant, Digits::All);
+  } catch (const NullPointer&) {
+    runtime::Raise(runtime::RuntimeError::ObjectNotSet);
+  }
+}
+
 // The arguments of one call, last one first as the platform wants them.
 class HostArguments {
  public:
@@ -38,7 +47,7 @@ class HostArguments {
   void StoreChanges() {
     for (std::size_t i = 0; i < before_.size(); ++i) {
       const std::size_t at = before_.size() - 1 - i;
-      if (MayDiffer(before_[i], values_[at].value)) given_[at] = FromVariant(values_[at].value);
+      if (MayDiffer(before_[i], values_[at].value)) given_[at] = FromHost(values_[at].value);
     }
   }
 
@@ -68,12 +77,16 @@ bool IsPut(CallKind pKind) noexcept {
 
 }  // namespace
 
+HostObject::HostObject(ComRef<IDispatch> pDispatch) : dispatch_(std::move(pDispatch)), thread_(GetCurrentThreadId()) {}
+
 HostObject::~HostObject() {
-  // The state of a thread may outlive its apartment. The code behind the object may be unloaded by then, so that it is
-  // left alone.
+  // Only its own apartment may release it. The state of a thread may outlive that, and the code behind the object may
+  // be unloaded by then, so that it is left alone.
   APTTYPE type{};
   APTTYPEQUALIFIER qualifier{};
-  if (CoGetApartmentType(&type, &qualifier) == CO_E_NOTINITIALIZED) dispatch_.Release();
+  const bool isAtHome = GetCurrentThreadId() == thread_ && !IsModuleEnding() &&
+                        CoGetApartmentType(&type, &qualifier) != CO_E_NOTINITIALIZED;
+  if (!isAtHome) dispatch_.Release();
 }
 
 DISPID HostObject::FindMember(std::u16string_view pName) const {
@@ -90,7 +103,16 @@ DISPID HostObject::FindMember(std::u16string_view pName) const {
 }
 
 Variant HostObject::Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments) {
-  const DISPID member = FindMember(pName);
+  return InvokeId(FindMember(pName), pKind, pArguments);
+}
+
+Variant HostObject::InvokeNumbered(const runtime::NumberedMember& pMember, CallKind pKind,
+                                   std::span<Variant> pArguments) {
+  return InvokeId(pMember.number, pKind, pArguments);
+}
+
+Variant HostObject::InvokeId(DISPID pMember, CallKind pKind, std::span<Variant> pArguments) {
+  const ComRef<IDispatch> held = dispatch_;  // the call may let go of this object
   HostArguments arguments(pArguments, pKind == CallKind::Method || pKind == CallKind::MethodOrGet);
   DISPID newValue = DISPID_PROPERTYPUT;
   DISPPARAMS parameters{arguments.Data(), nullptr, arguments.Count(), 0};
@@ -102,8 +124,8 @@ Variant HostObject::Invoke(std::u16string_view pName, CallKind pKind, std::span<
   EXCEPINFO exception{};
   UINT faultAt = 0;
   const auto call = [&](CallKind pFlags) {
-    return dispatch_->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, static_cast<WORD>(pFlags), &parameters,
-                             IsPut(pKind) ? nullptr : &answer.value, &exception, &faultAt);
+    return held->Invoke(pMember, IID_NULL, LOCALE_USER_DEFAULT, static_cast<WORD>(pFlags), &parameters,
+                        IsPut(pKind) ? nullptr : &answer.value, &exception, &faultAt);
   };
   HRESULT result = call(pKind);
   // What is to be read may be a function. Not asked for in one call, which some script hosts take for a call of
@@ -112,7 +134,7 @@ Variant HostObject::Invoke(std::u16string_view pName, CallKind pKind, std::span<
   if (result == DISP_E_EXCEPTION) RaiseException(exception);
   CheckResult(result);
   arguments.StoreChanges();
-  return FromVariant(answer.value);
+  return FromHost(answer.value);
 }
 
 runtime::Array<Variant> HostObject::Elements() {

@@ -10,6 +10,7 @@ namespace {
 HINSTANCE module = nullptr;
 std::atomic<long> locks = 0;
 std::atomic<ITypeLib*> library = nullptr;
+bool isEnding = false;
 
 }  // namespace
 
@@ -17,8 +18,13 @@ void SetModule(HINSTANCE pModule) noexcept {
   module = pModule;
 }
 
-void ReleaseTypeLibrary() noexcept {
+void EndModule() noexcept {
+  isEnding = true;
   if (ITypeLib* last = library.exchange(nullptr)) last->Release();
+}
+
+bool IsModuleEnding() noexcept {
+  return isEnding;
 }
 
 std::wstring ModulePath() {

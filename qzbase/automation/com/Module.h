@@ -10,8 +10,9 @@ namespace qzbase::automation::com {
 // Called once, when the DLL is loaded.
 void SetModule(HINSTANCE pModule) noexcept;
 
-// Called when the DLL is unloaded while the process goes on.
-void ReleaseTypeLibrary() noexcept;
+// Called when the DLL is unloaded while the process goes on: lets go of the type library.
+void EndModule() noexcept;
+bool IsModuleEnding() noexcept;
 
 std::wstring ModulePath();
 

@@ -13,8 +13,9 @@ using runtime::Raise;
 using runtime::Ref;
 using runtime::RuntimeError;
 
-OuterFace::OuterFace(const Face& pFace, Ref<runtime::Object> pObject) : face_(pFace), object_(std::move(pObject)) {
-  slots = pFace.slots;
+OuterFace::OuterFace(const ServerClass& pClass, Ref<runtime::Object> pObject)
+    : class_(pClass), object_(std::move(pObject)) {
+  slots = pClass.slots;
   object_->outerFace = this;
 }
 
@@ -22,12 +23,12 @@ OuterFace::~OuterFace() {
   object_->outerFace = nullptr;
 }
 
-OuterFace* OuterFace::Of(const Face& pFace, const Ref<runtime::Object>& pObject) {
+OuterFace* OuterFace::Of(const ServerClass& pClass, const Ref<runtime::Object>& pObject) {
   if (auto* known = static_cast<OuterFace*>(pObject->outerFace)) {
     known->AddRef();
     return known;
   }
-  return new OuterFace(pFace, pObject);
+  return new OuterFace(pClass, pObject);
 }
 
 OuterFace* OuterFace::Behind(IUnknown* pInterface) noexcept {
@@ -39,7 +40,7 @@ OuterFace* OuterFace::Behind(IUnknown* pInterface) noexcept {
 HRESULT OuterFace::QueryInterface(REFIID pId, void** pResult) {
   if (!pResult) return E_POINTER;
   *pResult = nullptr;
-  if (pId == IID_IUnknown || pId == IID_IDispatch || pId == face_.interfaceId)
+  if (pId == IID_IUnknown || pId == IID_IDispatch || pId == class_.interfaceId)
     *pResult = static_cast<DualInterface*>(this);
   else if (pId == IID_ISupportErrorInfo)
     *pResult = static_cast<ISupportErrorInfo*>(this);
@@ -51,25 +52,15 @@ HRESULT OuterFace::QueryInterface(REFIID pId, void** pResult) {
   return S_OK;
 }
 
-ULONG OuterFace::AddRef() {
-  return ++references_;
-}
-
-ULONG OuterFace::Release() {
-  const ULONG left = --references_;
-  if (left == 0) delete this;
-  return left;
-}
-
 HRESULT OuterFace::InterfaceSupportsErrorInfo(REFIID pId) {
-  return pId == face_.interfaceId ? S_OK : S_FALSE;
+  return pId == class_.interfaceId ? S_OK : S_FALSE;
 }
 
 HRESULT OuterFace::GetClassInfo(ITypeInfo** pResult) {
   if (!pResult) return E_POINTER;
   *pResult = nullptr;
-  return Guard(&face_, [&] {
-    *pResult = TypeInfoOf(face_.classId).Release();
+  return Guard(&class_, [&] {
+    *pResult = TypeInfoOf(class_.classId).Release();
     return S_OK;
   });
 }
@@ -91,9 +82,9 @@ IDispatch* ToDispatch(const Ref<runtime::Object>& pObject) {
   }
   if (const auto* host = dynamic_cast<const HostObject*>(pObject.get()))
     return ComRef<IDispatch>::Share(host->Dispatch()).Release();
-  const Face* face = FindFace(*pObject);
-  if (!face) Raise(RuntimeError::TypeMismatch);
-  return OuterFace::Of(*face, pObject)->AsDispatch();
+  const ServerClass* served = FindServerClass(*pObject);
+  if (!served) Raise(RuntimeError::TypeMismatch);
+  return OuterFace::Of(*served, pObject)->AsDispatch();
 }
 
 }  // namespace qzbase::automation::com

@@ -8,43 +8,43 @@ namespace qzbase::automation::com {
 using runtime::Raise;
 using runtime::RuntimeError;
 
-ComRef<IRecordInfo> RecordInfoOf(const RecordFace& pFace) {
+ComRef<IRecordInfo> RecordInfoOf(const ServerRecord& pClass) {
   ComRef<IRecordInfo> info;
-  CheckResult(GetRecordInfoFromTypeInfo(TypeInfoOf(pFace.id).Get(), info.Put()));
+  CheckResult(GetRecordInfoFromTypeInfo(TypeInfoOf(pClass.id).Get(), info.Put()));
   return info;
 }
 
-const RecordFace& CheckedRecordFace(IRecordInfo* pInfo) {
+const ServerRecord& CheckedServerRecord(IRecordInfo* pInfo) {
   GUID id{};
   if (!pInfo || FAILED(pInfo->GetGuid(&id))) Raise(RuntimeError::TypeMismatch);
-  const RecordFace* face = FindRecordFace(id);
-  if (!face) Raise(RuntimeError::TypeMismatch);
-  return *face;
+  const ServerRecord* served = FindServerRecord(id);
+  if (!served) Raise(RuntimeError::TypeMismatch);
+  return *served;
 }
 
 VARIANT RecordToVariant(const Record& pRecord) {
-  const RecordFace* face = FindRecordFace(pRecord);
-  if (!face) Raise(RuntimeError::TypeMismatch);
-  ComRef<IRecordInfo> info = RecordInfoOf(*face);
+  const ServerRecord* served = FindServerRecord(pRecord);
+  if (!served) Raise(RuntimeError::TypeMismatch);
+  ComRef<IRecordInfo> info = RecordInfoOf(*served);
   OwnedVariant result;
   result.value.pvRecord = info->RecordCreate();
   if (!result.value.pvRecord) Raise(RuntimeError::OutOfMemory);
   result.value.pRecInfo = info.Release();
   result.value.vt = VT_RECORD;
-  face->store(pRecord, result.value.pvRecord);
+  served->store(pRecord, result.value.pvRecord);
   return result.Release();
 }
 
 runtime::Ref<Record> RecordFromVariant(const VARIANT& pVariant) {
-  const RecordFace& face = CheckedRecordFace(pVariant.pRecInfo);
+  const ServerRecord& served = CheckedServerRecord(pVariant.pRecInfo);
   if (!pVariant.pvRecord) Raise(RuntimeError::ObjectNotSet);
-  return face.load(pVariant.pvRecord);
+  return served.load(pVariant.pvRecord);
 }
 
-void CheckRecordArray(SAFEARRAY& pArray, const RecordFace& pFace) {
+void CheckRecordArray(SAFEARRAY& pArray, const ServerRecord& pClass) {
   ComRef<IRecordInfo> info;
   CheckResult(SafeArrayGetRecordInfo(&pArray, info.Put()));
-  if (CheckedRecordFace(info.Get()).desc != pFace.desc) Raise(RuntimeError::TypeMismatch);
+  if (CheckedServerRecord(info.Get()).desc != pClass.desc) Raise(RuntimeError::TypeMismatch);
 }
 
 }  // namespace qzbase::automation::com

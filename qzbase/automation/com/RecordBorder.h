@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "qzbase/automation/com/Border.h"
-#include "qzbase/automation/com/Faces.h"
 #include "qzbase/automation/com/Guid.h"
+#include "qzbase/automation/com/ServerClasses.h"
 
 namespace qzbase::automation::com {
 
@@ -109,7 +109,7 @@ struct Border<R> {
 };
 
 template <RecordType R>
-inline constexpr RecordFace recordFace = {
+inline constexpr ServerRecord serverRecord = {
     &recordDesc<R>, ParseGuid(identity<R>.guid), sizeof(typename Border<R>::Native),
     [](const void* pNative) {
       return runtime::Ref<Record>(
@@ -121,16 +121,16 @@ inline constexpr RecordFace recordFace = {
     }};
 
 // The platform's description of a record, from the type library.
-ComRef<IRecordInfo> RecordInfoOf(const RecordFace& pFace);
+ComRef<IRecordInfo> RecordInfoOf(const ServerRecord& pClass);
 
 // A VT_RECORD. Error 13 for a record that hosts do not know.
 VARIANT RecordToVariant(const Record& pRecord);
 runtime::Ref<Record> RecordFromVariant(const VARIANT& pVariant);
 
 // Stores a record into the memory of another variable of its type (13 for one of another type).
-const RecordFace& CheckedRecordFace(IRecordInfo* pInfo);
+const ServerRecord& CheckedServerRecord(IRecordInfo* pInfo);
 
 // Error 13 for an array of other records.
-void CheckRecordArray(SAFEARRAY& pArray, const RecordFace& pFace);
+void CheckRecordArray(SAFEARRAY& pArray, const ServerRecord& pClass);
 
 }  // namespace qzbase::automation::com

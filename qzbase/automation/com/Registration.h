@@ -5,7 +5,7 @@
 //                               \ProgID, \VersionIndependentProgID, \TypeLib, \Version, \Programmable
 //
 // and the type library. Registering the DLL again from elsewhere moves everything there; a registration that fails
-// halfway is taken back.
+// halfway leaves what was there before.
 #pragma once
 
 #include "qzbase/automation/com/Platform.h"

@@ -28,14 +28,14 @@ OwnedSafeArray CheckMade(SAFEARRAY* pArray) {
 
 // Elements that hold one of the library's own types.
 template <class E>
-bool ReadTyped(SAFEARRAY& pArray, VARTYPE pType, Variant& pResult) {
+bool ReadTyped(SAFEARRAY* pArray, VARTYPE pType, Variant& pResult) {
   if (pType != Border<E>::kVarType) return false;
-  pResult = Variant(TypedFromSafeArray<E>(&pArray));
+  pResult = Variant(TypedFromSafeArray<E>(pArray));
   return true;
 }
 
 template <class... E>
-bool ReadOneOf(TypeList<E...>, SAFEARRAY& pArray, VARTYPE pType, Variant& pResult) {
+bool ReadOneOf(TypeList<E...>, SAFEARRAY* pArray, VARTYPE pType, Variant& pResult) {
   return (ReadTyped<E>(pArray, pType, pResult) || ...);
 }
 
@@ -45,16 +45,16 @@ using OwnElements = TypeList<Variant, std::uint8_t, std::int16_t, std::int32_t, 
 Array<Ref<Object>> ReadRecords(SAFEARRAY& pArray) {
   ComRef<IRecordInfo> info;
   CheckResult(SafeArrayGetRecordInfo(&pArray, info.Put()));
-  const RecordFace& face = CheckedRecordFace(info.Get());
+  const ServerRecord& served = CheckedServerRecord(info.Get());
   const ArrayAccess access(pArray);
   std::vector<Ref<Object>> elements;
   elements.reserve(access.Count());
-  for (std::size_t i = 0; i < access.Count(); ++i) elements.push_back(face.load(access.At(i)));
+  for (std::size_t i = 0; i < access.Count(); ++i) elements.push_back(served.load(access.At(i)));
   return {access.LowerBound(), std::move(elements)};
 }
 
 // Any other elements one by one, each seen through a variant of its type, which owns nothing.
-Array<Variant> ReadSingly(SAFEARRAY& pArray, VARTYPE pType) {
+Array<Variant> ReadSingly(SAFEARRAY& pArray, VARTYPE pType, Digits pDigits) {
   const ArrayAccess access(pArray);
   std::vector<Variant> elements;
   elements.reserve(access.Count());
@@ -62,7 +62,7 @@ Array<Variant> ReadSingly(SAFEARRAY& pArray, VARTYPE pType) {
     VARIANT element{};
     element.vt = static_cast<VARTYPE>(pType | VT_BYREF);
     element.byref = access.At(i);
-    elements.push_back(FromVariant(element));
+    elements.push_back(FromVariant(element, pDigits));
   }
   return {access.LowerBound(), std::move(elements)};
 }
@@ -99,15 +99,15 @@ const Record* FirstRecord(const Array<Ref<Object>>& pArray) {
 // Unset elements stay zero.
 OwnedSafeArray WriteRecords(const Array<Ref<Object>>& pArray) {
   const Record* first = FirstRecord(pArray);
-  const RecordFace* face = first ? FindRecordFace(*first) : nullptr;
-  if (!face) Raise(RuntimeError::TypeMismatch);
-  OwnedSafeArray result = NewRecordArray(*face, pArray.LowerBound(), pArray.Elements().size());
+  const ServerRecord* served = first ? FindServerRecord(*first) : nullptr;
+  if (!served) Raise(RuntimeError::TypeMismatch);
+  OwnedSafeArray result = NewRecordArray(*served, pArray.LowerBound(), pArray.Elements().size());
   const ArrayAccess access(*result.Get());
   std::size_t at = 0;
   for (const Ref<Object>& element : pArray) {
     const auto* record = dynamic_cast<const Record*>(element.get());
-    if (element && (!record || FindRecordFace(*record) != face)) Raise(RuntimeError::TypeMismatch);
-    if (record) face->store(*record, access.At(at));
+    if (element && (!record || FindServerRecord(*record) != served)) Raise(RuntimeError::TypeMismatch);
+    if (record) served->store(*record, access.At(at));
     ++at;
   }
   return result;
@@ -144,18 +144,18 @@ OwnedSafeArray NewSafeArray(VARTYPE pType, std::int32_t pLower, std::size_t pCou
   return CheckMade(SafeArrayCreate(pType, 1, &bounds));
 }
 
-OwnedSafeArray NewRecordArray(const RecordFace& pFace, std::int32_t pLower, std::size_t pCount) {
+OwnedSafeArray NewRecordArray(const ServerRecord& pClass, std::int32_t pLower, std::size_t pCount) {
   SAFEARRAYBOUND bounds = Bounds(pLower, pCount);
-  return CheckMade(SafeArrayCreateEx(VT_RECORD, 1, &bounds, RecordInfoOf(pFace).Get()));
+  return CheckMade(SafeArrayCreateEx(VT_RECORD, 1, &bounds, RecordInfoOf(pClass).Get()));
 }
 
-Variant FromSafeArray(SAFEARRAY* pArray, VARTYPE pDeclared) {
-  if (!pArray) return Variant(Array<Variant>());
-  const VARTYPE type = ElementType(*pArray, pDeclared);
+Variant FromSafeArray(SAFEARRAY* pArray, VARTYPE pDeclared, Digits pDigits) {
+  const VARTYPE type = pArray ? ElementType(*pArray, pDeclared) : pDeclared;
   Variant result;
-  if (ReadOneOf(OwnElements(), *pArray, type, result)) return result;
+  if (ReadOneOf(OwnElements(), pArray, type, result)) return result;
+  if (!pArray) return Variant(Array<Variant>());
   if (type == VT_RECORD) return Variant(ReadRecords(*pArray));
-  return Variant(ReadSingly(*pArray, type));
+  return Variant(ReadSingly(*pArray, type, pDigits));
 }
 
 VARTYPE ElementType(const AnyArray& pArray) {
@@ -186,15 +186,18 @@ bool IsFixed(const SAFEARRAY* pArray) noexcept {
 
 void CheckReplaceable(SAFEARRAY* pArray, SAFEARRAY* pFresh) {
   if (!IsFixed(pArray)) return;
-  const bool sameSize = pFresh && pArray->cDims == 1 && pArray->cbElements == pFresh->cbElements &&
-                        pArray->rgsabound[0].cElements == pFresh->rgsabound[0].cElements;
-  if (!sameSize) Raise(RuntimeError::ArrayFixed);
+  const bool canBeFilled = pArray->cLocks == 0 && pFresh && pArray->cDims == 1 &&
+                           pArray->cbElements == pFresh->cbElements &&
+                           pArray->rgsabound[0].cElements == pFresh->rgsabound[0].cElements;
+  if (!canBeFilled) Raise(RuntimeError::ArrayFixed);
 }
 
 void ReplaceArray(SAFEARRAY*& pArray, SAFEARRAY* pFresh) noexcept {
   OwnedSafeArray fresh(pFresh);
-  if (IsFixed(pArray)) {
-    SafeArrayCopyData(fresh.Get(), pArray);
+  if (IsFixed(pArray)) {  // the elements change places, which cannot fail; the old ones go with the fresh array
+    auto* first = static_cast<std::byte*>(pArray->pvData);
+    std::swap_ranges(first, first + std::size_t{pArray->cbElements} * pArray->rgsabound[0].cElements,
+                     static_cast<std::byte*>(pFresh->pvData));
     return;
   }
   const OwnedSafeArray last(pArray);

@@ -41,11 +41,11 @@ VARTYPE ElementType(SAFEARRAY& pArray, VARTYPE pDeclared);
 
 // Elements are zero.
 OwnedSafeArray NewSafeArray(VARTYPE pType, std::int32_t pLower, std::size_t pCount);
-OwnedSafeArray NewRecordArray(const RecordFace& pFace, std::int32_t pLower, std::size_t pCount);
+OwnedSafeArray NewRecordArray(const ServerRecord& pClass, std::int32_t pLower, std::size_t pCount);
 
 // ---- Elements of any type.
 
-runtime::Variant FromSafeArray(SAFEARRAY* pArray, VARTYPE pDeclared);
+runtime::Variant FromSafeArray(SAFEARRAY* pArray, VARTYPE pDeclared, Digits pDigits);
 
 // VT_DISPATCH for objects, or VT_RECORD where they are records.
 VARTYPE ElementType(const runtime::AnyArray& pArray);
@@ -67,7 +67,7 @@ runtime::Array<E> TypedFromSafeArray(SAFEARRAY* pArray) {
   if (!pArray) return {};
   if (ElementType(*pArray, Border<E>::kVarType) != Border<E>::kVarType || pArray->cbElements != sizeof(Native))
     runtime::Raise(runtime::RuntimeError::TypeMismatch);
-  if constexpr (RecordType<E>) CheckRecordArray(*pArray, recordFace<E>);
+  if constexpr (RecordType<E>) CheckRecordArray(*pArray, serverRecord<E>);
   const ArrayAccess access(*pArray);
   const auto natives = access.Elements<Native>();
   std::vector<E> elements;
@@ -88,7 +88,7 @@ OwnedSafeArray TypedToSafeArray(const runtime::Array<E>& pArray) {
   const auto& elements = pArray.Elements();
   OwnedSafeArray result = [&] {
     if constexpr (RecordType<E>)
-      return NewRecordArray(recordFace<E>, pArray.LowerBound(), elements.size());
+      return NewRecordArray(serverRecord<E>, pArray.LowerBound(), elements.size());
     else
       return NewSafeArray(Border<E>::kVarType, pArray.LowerBound(), elements.size());
   }();
@@ -101,6 +101,7 @@ OwnedSafeArray TypedToSafeArray(const runtime::Array<E>& pArray) {
 template <class E>
 struct Border<runtime::Array<E>> {
   using Native = SAFEARRAY*;
+  static constexpr VARTYPE kVarType = VT_ARRAY | Border<E>::kVarType;
   static runtime::Array<E> From(Native pNative) { return TypedFromSafeArray<E>(pNative); }
   static Native To(const runtime::Array<E>& pValue) { return TypedToSafeArray(pValue).Release(); }
   static void Clear(Native& pNative) noexcept {

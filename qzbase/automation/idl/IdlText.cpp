@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "qzbase/automation/Identities.h"
+#include "qzbase/automation/idl/TypelibDefaults.h"
 
 namespace qzbase::automation::idl {
 namespace {
@@ -81,8 +82,9 @@ std::string DefaultAttribute(const ParameterDesc& pParameter) {
   const DefaultValue& value = pParameter.defaultValue;
   const BaseType base = pParameter.type.base;
   if (value.kind == Kind::None) return "";
-  const bool isFloating = base == BaseType::Double || base == BaseType::Single || base == BaseType::Date;
-  if (pParameter.type.isByRef || isFloating) return ", optional";
+  if (base == BaseType::Single) return "";  // a wrong default would be silent
+  if (IsFloatingDefault(pParameter)) return ", defaultvalue(0)";
+  if (pParameter.IsByRef()) return ", optional";
   switch (value.kind) {
     case Kind::Boolean:
       return value.number != 0 ? ", defaultvalue(-1)" : ", defaultvalue(0)";
@@ -96,9 +98,9 @@ std::string DefaultAttribute(const ParameterDesc& pParameter) {
 }
 
 std::string ParameterText(const ParameterDesc& pParameter, IdlUse pUse) {
-  const bool byRef = pParameter.type.isByRef;
-  const std::string attributes =
-      std::string(byRef ? "[in, out" : "[in") + (pUse == IdlUse::TypeLibrary ? DefaultAttribute(pParameter) : "");
+  const bool byRef = pParameter.IsByRef();
+  const std::string attributes = std::string(pParameter.MayChange() ? "[in, out" : "[in") +
+                                 (pUse == IdlUse::TypeLibrary ? DefaultAttribute(pParameter) : "");
   return attributes + "] " + TypeName(pParameter.type) + (byRef ? "* " : " ") + std::string(pParameter.name);
 }
 
@@ -136,16 +138,16 @@ void AppendClass(std::string& pText, const ClassDesc& pClass) {
 
 }  // namespace
 
-std::string IdlText(const Face& pFace, IdlUse pUse) {
+std::string IdlText(const Catalog& pCatalog, IdlUse pUse) {
   std::string text = "// Made from the member tables by qzbase_idl: do not edit.\nimport \"oaidl.idl\";\n\n";
   text += "[uuid(" + std::string(kLibraryGuid) + "), version(" + std::string(kLibraryVersion) + "), helpstring(" +
           Quoted(kLibraryHelp) + ")]\nlibrary " + std::string(kLibraryName) + " {\n";
   text += "  importlib(\"stdole2.tlb\");\n";
-  for (const EnumDesc& each : pFace.enumerations) AppendEnumeration(text, each);
-  for (const RecordDesc& each : pFace.records) AppendRecord(text, each);
-  for (const ClassDesc& each : pFace.classes) text += "  interface _" + std::string(each.identity->name) + ";\n";
-  for (const ClassDesc& each : pFace.classes) AppendInterface(text, each, pUse);
-  for (const ClassDesc& each : pFace.classes) AppendClass(text, each);
+  for (const EnumDesc& each : pCatalog.enumerations) AppendEnumeration(text, each);
+  for (const RecordDesc& each : pCatalog.records) AppendRecord(text, each);
+  for (const ClassDesc& each : pCatalog.classes) text += "  interface _" + std::string(each.identity->name) + ";\n";
+  for (const ClassDesc& each : pCatalog.classes) AppendInterface(text, each, pUse);
+  for (const ClassDesc& each : pCatalog.classes) AppendClass(text, each);
   return text + "};\n";
 }
 

@@ -30,17 +30,17 @@ std::string InterfaceElement(const Identity& pIdentity) {
 
 }  // namespace
 
-std::string ManifestText(const Face& pFace, std::string_view pArchitecture) {
+std::string ManifestText(const Catalog& pCatalog, std::string_view pArchitecture) {
   std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n";
   text += "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n";
   text += "  <assemblyIdentity" + Attribute("type", "win32") + Attribute("name", kAssemblyName) +
           Attribute("version", std::string(kLibraryVersion) + ".0.0") +
           Attribute("processorArchitecture", pArchitecture) + "/>\n";
   text += "  <file" + Attribute("name", std::string(kLibraryName) + ".dll") + ">\n";
-  for (const ClassDesc& each : pFace.classes) text += ClassElement(*each.identity);
+  for (const ClassDesc& each : pCatalog.classes) text += ClassElement(*each.identity);
   text += "    <typelib" + Attribute("tlbid", Braced(kLibraryGuid)) + Attribute("version", kLibraryVersion) +
           Attribute("helpdir", "") + "/>\n  </file>\n";
-  for (const ClassDesc& each : pFace.classes) text += InterfaceElement(*each.identity);
+  for (const ClassDesc& each : pCatalog.classes) text += InterfaceElement(*each.identity);
   return text + "</assembly>\n";
 }
 

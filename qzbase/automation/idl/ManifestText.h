@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "qzbase/automation/idl/Face.h"
+#include "qzbase/automation/Catalog.h"
 
 namespace qzbase::automation::idl {
 
@@ -14,6 +14,6 @@ namespace qzbase::automation::idl {
 inline constexpr std::string_view kAssemblyName = "QZBase.Server";
 
 // `pArchitecture` is that of the DLL: "amd64" or "x86".
-std::string ManifestText(const Face& pFace, std::string_view pArchitecture);
+std::string ManifestText(const Catalog& pCatalog, std::string_view pArchitecture);
 
 }  // namespace qzbase::automation::idl

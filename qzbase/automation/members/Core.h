@@ -57,14 +57,14 @@ inline constexpr auto members<GCMath> =
           method<&GCMath::RoundUp>("RoundUp", {"Value", "Decimals"}, "Ceil at a number of decimals."),
           method<&GCMath::RoundSigFigs>("RoundSigFigs", {"Value", "SigFigs"}, "Rounds to significant figures."),
           method<&GCMath::Log10>("Log10", {byRef("X")}, "The logarithm to the base 10."),
-          method<&GCMath::Max>("Max", {"val1", "val2"}, "The greater one of two values."),
-          method<&GCMath::Min>("Min", {"val1", "val2"}, "The lesser one of two values."),
+          method<&GCMath::Max>("Max", {whole("val1"), whole("val2")}, "The greater one of two values."),
+          method<&GCMath::Min>("Min", {whole("val1"), whole("val2")}, "The lesser one of two values."),
           method<&GCMath::Pow>("Pow", {"Bases", "Expo"}, "A number above 0 raised to a power."),
           method<&GCMath::Swap>("Swap", {"val1", "val2"}, "Exchanges two values."),
           method<&GCMath::Inc>("Inc", {"InVal"}, "Adds 1 to a number, which is the result too."),
           method<&GCMath::Dec>("Dec", {"InVal"}, "Subtracts 1 from a number, which is the result too."),
           get<&GCMath::PI>("PI", "The ratio of a circle's circumference to its diameter."),
-          method<&GCMath::CalcMean>("CalcMean", {"pY", "pMean", "pAbsStdDev"},
+          method<&GCMath::CalcMean>("CalcMean", {"pY", out("pMean"), out("pAbsStdDev")},
                                     "Mean and standard deviation of a vector; 0 or the number of an error."));
 
 template <>

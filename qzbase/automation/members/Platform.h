@@ -68,7 +68,7 @@ constexpr auto SystemRows() {
               method<&GCBase::GetGUIDString>("GetGUIDString", "The text of a new globally unique identifier."),
               method<&GCBase::GUIDString>("GUIDString", {byRef("GUID")}, "The text of a globally unique identifier."),
               method<&GCBase::OperatingSystem>("OperatingSystem", "The family of the operating system, -1 if unknown."),
-              method<&GCBase::FullOSInfo>("FullOSInfo", {"OSId", "Version", "Service"},
+              method<&GCBase::FullOSInfo>("FullOSInfo", {out("OSId"), out("Version"), out("Service")},
                                           "The texts of the operating system: family, version, service pack."),
               method<&GCBase::WindowsUserName>("WindowsUserName", "The name of the user."),
               method<&GCBase::WindowsServerName>("WindowsServerName", "The name of the computer."),

@@ -1,9 +1,9 @@
-// The system's standard font in the hands of the library, which calls it by name.
+// The system's standard font and one of a host in the hands of the library, which calls their members by number.
 #include <cmath>
 
 #include <olectl.h>
 
-#include "Client.h"
+#include "ScriptObject.h"
 
 namespace qzbase::tests {
 namespace {
@@ -50,6 +50,31 @@ TEST(StandardFont, IsReadAndSet) {
   EXPECT_EQ(size, style.Size);
   EXPECT_NEAR(12, size, 1);
   EXPECT_EQ(10, style.Style);
+}
+
+// Numbers say what the members are, whatever the host calls them; the flags are read bold first.
+TEST(HostFont, IsCalledByTheNumbersOfTheStandardFont) {
+  const auto base = Create<_GCBase>(__uuidof(GCBase));
+  const OwnedText name = Bstr(u"Arial");
+  std::string read;
+  const auto returns = [&](const char* pShown, VARIANT pValue) -> ScriptFunction {
+    return [&read, pShown, pValue](WORD, const DISPPARAMS&, VARIANT* pResult) mutable {
+      read += pShown;
+      return VariantCopy(pResult, &pValue);
+    };
+  };
+  ScriptObject font({{L"", returns("name ", Text(name))},
+                     {L"Grad", returns("size ", Double(9.5))},
+                     {L"Fett", returns("bold ", Long(0))},
+                     {L"Kursiv", returns("italic ", Long(-1))},
+                     {L"Unterstrichen", returns("underline ", Long(0))},
+                     {L"Durchgestrichen", returns("strike", Long(-1))}});
+  TFontStyle style{};
+  ASSERT_EQ(S_OK, base->FontStyle(&font, 255, &style));
+  EXPECT_EQ(u"Arial", Taken(style.Name));
+  EXPECT_EQ(10, style.Size);
+  EXPECT_EQ(10, style.Style);
+  EXPECT_EQ("name size bold italic underline strike", read);
 }
 
 }  // namespace

@@ -134,7 +134,7 @@ TEST(HostObjects, ComeBackAsTheyWere) {
   left.value = Dispatch(&object, VT_UNKNOWN);
   object.AddRef();
   EXPECT_EQ(S_OK, math->Swap(&left.value, &right.value));
-  EXPECT_EQ(VT_DISPATCH, right.value.vt);
+  EXPECT_EQ(VT_UNKNOWN, right.value.vt);
   EXPECT_EQ(&object, right.value.punkVal);
   VariantClear(&right.value);
   EXPECT_EQ(1U, object.References());

@@ -1,4 +1,6 @@
 // Calls by name through IDispatch: names, arguments, values and what comes back when a call is wrong.
+#include <cstring>
+
 #include "Client.h"
 
 namespace qzbase::tests {
@@ -104,8 +106,8 @@ TEST(LateBinding, ErrorsCarryNumberSourceAndText) {
   }
 }
 
-// Max gives back one of its arguments as it came in.
-TEST(LateBinding, NumbersOfOtherKindsBecomeTheNearestOwn) {
+// Max gives back one of its arguments as it came in, of whatever kind.
+TEST(LateBinding, WholeVariantsStayWhole) {
   const auto math = Create<_GCMath>(__uuidof(GCMath));
   const auto given = [](VARTYPE pType, LONGLONG pBits) {
     VARIANT result{};
@@ -116,25 +118,56 @@ TEST(LateBinding, NumbersOfOtherKindsBecomeTheNearestOwn) {
   VARIANT decimal{};
   VarDecFromR8(2.5, &decimal.decVal);
   decimal.vt = VT_DECIMAL;
-  struct Row {
-    VARIANT given;
-    VARTYPE type;
-    double value;
-  };
-  const Row rows[] = {{given(VT_UI1, 200), VT_I2, 200},  {given(VT_I1, 0x7F), VT_I2, 127},
-                      {given(VT_I2, 3), VT_I2, 3},       {given(VT_UI2, 0xFFFF), VT_I4, 65535},
-                      {given(VT_INT, 5), VT_I4, 5},      {given(VT_UI4, 0xFFFFFFFF), VT_R8, 4294967295.0},
-                      {given(VT_I8, 6), VT_I4, 6},       {given(VT_I8, 1LL << 40), VT_R8, 1099511627776.0},
-                      {given(VT_CY, 25000), VT_R8, 2.5}, {decimal, VT_R8, 2.5}};
-  for (const Row& row : rows) {
+  const VARIANT rows[] = {given(VT_UI1, 200),
+                          given(VT_I1, 0x7F),
+                          given(VT_UI2, 0xFFFF),
+                          given(VT_UI4, 0xFFFFFFFF),
+                          given(VT_I8, (1LL << 60) + 1),
+                          given(VT_CY, 25000),
+                          decimal};
+  for (const VARIANT& row : rows) {
     VARIANT zero = Long(0);
-    OwnedVariant result;
-    EXPECT_EQ(S_OK, math->Max(row.given, zero, &result.value)) << row.given.vt;
-    EXPECT_EQ(row.type, result.value.vt) << row.given.vt;
-    OwnedVariant number;
-    VariantChangeType(&number.value, &result.value, 0, VT_R8);
-    EXPECT_EQ(row.value, number.value.dblVal) << row.given.vt;
+    OwnedVariant early;
+    EXPECT_EQ(S_OK, math->Max(row, zero, &early.value)) << row.vt;
+    EXPECT_EQ(0, std::memcmp(&row, &early.value, sizeof row)) << row.vt;
+    Answer late;
+    CallByName(late, math.Get(), L"Max", DISPATCH_METHOD, {row, zero});
+    EXPECT_EQ(0, std::memcmp(&row, &late.value.value, sizeof row)) << row.vt;
+    VARIANT left = row;
+    VARIANT right = zero;
+    EXPECT_EQ(S_OK, math->Swap(&left, &right)) << row.vt;
+    EXPECT_EQ(VT_I4, left.vt);
+    EXPECT_EQ(0, std::memcmp(&row, &right, sizeof row)) << row.vt;
   }
+  // A container keeps what its own kinds can hold, and refuses what would lose digits.
+  const auto vector = Create<_CVector>(__uuidof(CVector));
+  EXPECT_EQ(S_OK, vector->AddValue(given(VT_I8, 1LL << 40)));
+  EXPECT_EQ(ErrorResult(6), vector->AddValue(given(VT_I8, (1LL << 60) + 1)));
+  // One that is left out is the default, early bound too.
+  EXPECT_EQ(S_OK, vector->InsertValue(1, Omitted()));
+  OwnedVariant first;
+  EXPECT_EQ(S_OK, vector->get_Value(1, &first.value));
+  EXPECT_EQ(VT_R8, first.value.vt);
+  EXPECT_EQ(-9.9999999999e300, first.value.dblVal);
+}
+
+// What a member only reads, or does not change, is not touched.
+TEST(LateBinding, UnchangedVariablesAreNotTouched) {
+  const auto strings = Create<_GCStrings>(__uuidof(GCStrings));
+  const auto math = Create<_GCMath>(__uuidof(GCMath));
+  const OwnedText delimiter = Bstr(u";");
+  VARIANT number{};
+  number.vt = VT_UI1;
+  number.bVal = 100;
+  Answer answer;
+  CallByName(answer, math.Get(), L"Log10", DISPATCH_METHOD, {Variable(number)});
+  EXPECT_EQ(VT_UI1, number.vt);
+  VARIANT money{};
+  money.vt = VT_CY;
+  money.cyVal.int64 = 50000;
+  CallByName(answer, strings.Get(), L"InitEnumRange", DISPATCH_METHOD, {Variable(money)});
+  EXPECT_EQ(VT_BSTR, money.vt);  // changed
+  VariantClear(&money);
 }
 
 TEST(LateBinding, ByReferenceArgumentsOfEveryTypeComeBack) {

@@ -26,9 +26,9 @@ ComRef<ITypeLib> ServerTypeLibrary() {
   return library;
 }
 
-// What type libraries cannot hold: a default that is a double. Its parameter is merely optional there.
-std::string WithoutDefaultsOfDoubles(const std::string& pLine) {
-  static const std::regex kDefault("(: Double|: Variant) = [^,)\"]*");
+// A variant that is left out says so to the member, which knows its default.
+std::string WithoutDefaultsOfVariants(const std::string& pLine) {
+  static const std::regex kDefault("(: Variant) = [^,)\"]*");
   return std::regex_replace(pLine, kDefault, "$1 = ?");
 }
 
@@ -46,7 +46,7 @@ TEST(TypeLibrary, SaysWhatTheTablesSay) {
   ASSERT_GT(expected.size(), 100U);
   EXPECT_EQ(expected.size(), actual.size());
   for (std::size_t i = 0; i < std::min(expected.size(), actual.size()); ++i)
-    EXPECT_EQ(WithoutDefaultsOfDoubles(expected[i]), actual[i]);
+    EXPECT_EQ(WithoutDefaultsOfVariants(expected[i]), actual[i]);
 }
 
 GUID IdOf(ITypeLib& pLibrary) {

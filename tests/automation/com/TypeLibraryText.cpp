@@ -1,6 +1,8 @@
 #include "TypeLibraryText.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstddef>
 #include <map>
 #include <string_view>
@@ -112,6 +114,12 @@ std::string DefaultText(const PARAMDESC& pParameter) {
       return value.boolVal != VARIANT_FALSE ? " = True" : " = False";
     case VT_I4:
       return " = " + NumberOf(value.lVal);
+    case VT_R8: {
+      std::array<char, 32> text{};
+      const auto end = std::to_chars(text.begin(), text.end(), value.dblVal).ptr;
+      std::replace(text.begin(), end, 'e', 'E');
+      return " = " + std::string(text.begin(), end);
+    }
     case VT_BSTR:
       return " = \"" + Narrow(automation::com::TextIn(value.bstrVal)) + "\"";
     default:
@@ -141,7 +149,9 @@ std::string MemberText(const TypeInfo& pInfo, const FUNCDESC& pMember) {
     if ((each.paramdesc.wParamFlags & PARAMFLAG_FRETVAL) != 0) {
       result = ": " + TypeText(pInfo, *each.tdesc.lptdesc);
     } else {
-      parameters += (i == 0 ? "" : ", ") + names[i + 1] + ": " + TypeText(pInfo, each.tdesc);
+      const std::string type = TypeText(pInfo, each.tdesc);
+      const bool isInOnly = type.starts_with("ByRef") && (each.paramdesc.wParamFlags & PARAMFLAG_FOUT) == 0;
+      parameters += (i == 0 ? "" : ", ") + names[i + 1] + (isInOnly ? ": In " : ": ") + type;
       parameters += DefaultText(each.paramdesc);
     }
   }

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "qzbase/automation/idl/FaceCheck.h"
+#include "qzbase/automation/idl/CatalogCheck.h"
 #include "qzbase/automation/idl/IdlText.h"
 #include "qzbase/automation/idl/ManifestText.h"
 
@@ -30,9 +30,10 @@ struct SampleRecord {
 namespace qzbase::automation {
 
 template <>
-inline constexpr Identity identity<tests::Sample> = GlobalClass("Sample", "C1", "C2", "Says \"hello\".");
+inline constexpr Identity identity<tests::Sample> = {IdentityKind::GlobalClass, "Sample", "C1", "C2",
+                                                     "Says \"hello\"."};
 template <>
-inline constexpr Identity identity<tests::SampleRecord> = RecordNamed("SampleRecord", "R1", "A record.");
+inline constexpr Identity identity<tests::SampleRecord> = {IdentityKind::Record, "SampleRecord", "R1", {}, "A record."};
 template <>
 inline constexpr auto fields<tests::SampleRecord> = record(field<&tests::SampleRecord::count>("Count", "A count."));
 
@@ -56,18 +57,19 @@ using namespace automation::idl;
 constexpr ClassDesc kClasses[] = {{&identity<Sample>, &memberTable<Sample>}};
 constexpr RecordDesc kRecords[] = {recordDesc<SampleRecord>};
 constexpr EnumItem kItems[] = {{"Small", 1}, {"LARGE", 2}};
-constexpr Identity kEnumeration = EnumerationNamed("SampleSize", "E1", "Sizes.");
+constexpr Identity kEnumeration = {IdentityKind::Enumeration, "SampleSize", "E1", {}, "Sizes."};
 constexpr EnumDesc kEnumerations[] = {{&kEnumeration, kItems}};
-constexpr Face kFace = {kClasses, kRecords, kEnumerations};
+constexpr Catalog kCatalog = {kClasses, kRecords, kEnumerations};
 
 TEST(Idl, SaysWhatTheTablesSay) {
-  const std::string text = IdlText(kFace, IdlUse::TypeLibrary);
+  const std::string text = IdlText(kCatalog, IdlUse::TypeLibrary);
   for (const char* each : {
            "interface _Sample : IDispatch {\n"
            "    [id(0), propget, helpstring(\"The size.\")]\n    HRESULT Size([out, retval] long* pResult);\n"
            "    [id(0), propput, helpstring(\"The size.\")]\n    HRESULT Size([in] long pNewValue);\n"
            "    [id(1), propputref, helpstring(\"The owner.\")]\n    HRESULT Owner([in] _Sample* pNewValue);\n",
-           "HRESULT Find([in] double pValue, [in, optional] double pFrom, [in, defaultvalue(\"a\\\"b\")] BSTR pText, "
+           "HRESULT Find([in] double pValue, [in, defaultvalue(0)] double pFrom, [in, defaultvalue(\"a\\\"b\")] BSTR "
+           "pText, "
            "[in, defaultvalue(-1)] VARIANT_BOOL pUpwards, [out, retval] double* pResult);",
            "HRESULT Change([in, out] VARIANT* pValue, [in, out] SAFEARRAY(BSTR)* pTexts);",
            "[uuid(C1), helpstring(\"Says \\\"hello\\\".\"), appobject]\n  coclass Sample {",
@@ -76,19 +78,19 @@ TEST(Idl, SaysWhatTheTablesSay) {
            "  enum SampleSize {\n    Small = 1,\n    LARGE = 2\n  } SampleSize;",
        })
     EXPECT_NE(std::string::npos, text.find(each)) << each << "\nin\n" << text;
-  EXPECT_EQ(std::string::npos, IdlText(kFace, IdlUse::Header).find("defaultvalue"));
+  EXPECT_EQ(std::string::npos, IdlText(kCatalog, IdlUse::Header).find("defaultvalue"));
 }
 
 TEST(Manifest, NamesTheClass) {
-  const std::string text = ManifestText(kFace, "x86");
+  const std::string text = ManifestText(kCatalog, "x86");
   EXPECT_NE(std::string::npos, text.find("<comClass clsid=\"{C1}\" progid=\"QZBase.Sample\""));
   EXPECT_NE(std::string::npos, text.find("processorArchitecture=\"x86\""));
 }
 
 // Each row spoils one name or type of a face that has no faults.
-TEST(FaceCheck, FindsWhatCompilersDoNot) {
-  EXPECT_EQ(std::vector<std::string>(), FaultsOf(kFace));
-  EXPECT_EQ(std::vector<std::string>(), FaultsOf(LibraryFace()));
+TEST(CatalogCheck, FindsWhatCompilersDoNot) {
+  EXPECT_EQ(std::vector<std::string>(), FaultsOf(kCatalog));
+  EXPECT_EQ(std::vector<std::string>(), FaultsOf(LibraryCatalog()));
 
   struct Row {
     EnumItem item;
@@ -111,13 +113,13 @@ TEST(FaceCheck, FindsWhatCompilersDoNot) {
   }
 }
 
-TEST(FaceCheck, FindsTypesThatAutomationLacks) {
+TEST(CatalogCheck, FindsTypesThatAutomationLacks) {
   const auto faultsOfField = [](TypeDesc pType) {
     const FieldDesc fields[] = {{"Count", "A count.", pType}};
     const RecordDesc records[] = {{&identity<SampleRecord>, fields}};
     return FaultsOf({{}, records, {}}).size();
   };
-  TypeDesc type = DescribeValue<runtime::Ref<Sample>>();
+  TypeDesc type = Describe<runtime::Ref<Sample>>();
   EXPECT_EQ(0U, faultsOfField(type));
   type.isArray = true;
   EXPECT_EQ(1U, faultsOfField(type));

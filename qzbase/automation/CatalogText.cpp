@@ -1,4 +1,4 @@
-#include "qzbase/automation/FaceText.h"
+#include "qzbase/automation/CatalogText.h"
 
 #include <algorithm>
 #include <array>
@@ -51,7 +51,10 @@ std::string DefaultText(const DefaultValue& pValue) {
 }
 
 std::string ParameterText(const ParameterDesc& pParameter) {
-  const std::string type = TypeText(pParameter.type);
+  const std::string type = (!pParameter.IsByRef()    ? ""
+                            : pParameter.MayChange() ? "ByRef "
+                                                     : "In ByRef ") +
+                           TypeText(pParameter.type);
   if (!pParameter.IsOptional()) return Joined({pParameter.name, ": ", type});
   return Joined({pParameter.name, ": ", type, " = ", DefaultText(pParameter.defaultValue)});
 }
@@ -72,7 +75,7 @@ std::string RecordText(const RecordDesc& pRecord) {
   return text;
 }
 
-std::string ClassText(const ClassEntry& pClass) {
+std::string ClassText(const ClassDesc& pClass) {
   const Identity& identity = *pClass.identity;
   const std::string_view kind = identity.kind == IdentityKind::GlobalClass ? "global class " : "class ";
   std::string text = Joined({kind, identity.name, " {", identity.guid, "} interface {", identity.interfaceGuid, "}\n"});
@@ -87,10 +90,10 @@ std::string TypeText(const TypeDesc& pType) {
   const std::string bounds = pType.fixedLength != 0 ? Joined({"(0 To ", std::to_string(pType.fixedLength - 1), ")"})
                              : pType.isArray        ? "()"
                                                     : "";
-  return Joined({pType.isByRef ? "ByRef " : "", name, bounds});
+  return Joined({name, bounds});
 }
 
-std::string MemberText(const ClassEntry& pClass, const MemberDesc& pMember) {
+std::string MemberText(const ClassDesc& pClass, const MemberDesc& pMember) {
   std::string parameters;
   for (const ParameterDesc& each : pClass.members->Parameters(pMember)) {
     if (!parameters.empty()) parameters += ", ";
@@ -102,11 +105,11 @@ std::string MemberText(const ClassEntry& pClass, const MemberDesc& pMember) {
                  result.empty() ? "" : ": ", result, pMember.isHidden ? " hidden" : ""});
 }
 
-std::string FaceText() {
+std::string CatalogText(const Catalog& pCatalog) {
   std::string text = Joined({"library ", kLibraryName, " ", kLibraryVersion, " {", kLibraryGuid, "}\n"});
-  for (const EnumDesc& enumeration : Enumerations()) text += EnumerationText(enumeration);
-  for (const RecordEntry& record : Records()) text += RecordText(*record.desc);
-  for (const ClassEntry* entry : Classes()) text += ClassText(*entry);
+  for (const EnumDesc& each : pCatalog.enumerations) text += EnumerationText(each);
+  for (const RecordDesc& each : pCatalog.records) text += RecordText(each);
+  for (const ClassDesc& each : pCatalog.classes) text += ClassText(each);
   return text;
 }
 

@@ -8,8 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include "qzbase/automation/CatalogText.h"
 #include "qzbase/automation/ClassTable.h"
-#include "qzbase/automation/FaceText.h"
 #include "qzbase/os/Utf8.h"
 #include "qzbase/runtime/Compare.h"
 #include "qzbase/runtime/Convert.h"
@@ -28,8 +28,8 @@ std::string LowerCase(std::string_view pName) {
   return result;
 }
 
-// The texts of a face, each looked at where the walk meets it.
-class FaceTexts {
+// The texts of the catalog, each looked at where the walk meets it.
+class CatalogTexts {
  public:
   // A type library keeps names in one pool, ignoring case, and the first spelling wins for all.
   void Name(std::string_view pName) {
@@ -81,10 +81,9 @@ void CheckProperty(const ClassEntry& pClass, const MemberDesc& pMember) {
   const auto taken = pClass.members->Parameters(pMember);
   const auto given = pClass.members->Parameters(getter);
   ASSERT_EQ(taken.size(), given.size() + 1);
-  EXPECT_TRUE(taken.back().type.SameValueAs(getter.result));
+  EXPECT_TRUE(taken.back().type == getter.result);
   EXPECT_TRUE(std::equal(given.begin(), given.end(), taken.begin(), [](const auto& pGiven, const auto& pTaken) {
-    return pGiven.name == pTaken.name && pGiven.type.SameValueAs(pTaken.type) &&
-           pGiven.IsOptional() == pTaken.IsOptional();
+    return pGiven.name == pTaken.name && pGiven.type == pTaken.type && pGiven.IsOptional() == pTaken.IsOptional();
   }));
 }
 
@@ -146,7 +145,7 @@ void CheckGet(const ClassEntry& pClass, const MemberDesc& pMember) {
   if (pMember.kind != MemberKind::Get || pMember.parameterCount != 0) return;
   const Ref<Object> object = pClass.create();
   Variant direct;
-  pClass.thunks[static_cast<std::size_t>(&pMember - pClass.members->rows.data())](*object, nullptr, direct);
+  pClass.functions[static_cast<std::size_t>(&pMember - pClass.members->rows.data())](*object, nullptr, direct);
   const Variant byName = pClass.create()->Get(os::FromUtf8(pMember.name));
   EXPECT_EQ(Shown(byName), Shown(direct));
   if (!pMember.result.isArray && pMember.result.base <= BaseType::Text) {
@@ -154,15 +153,15 @@ void CheckGet(const ClassEntry& pClass, const MemberDesc& pMember) {
   }
 }
 
-TEST(Face, TablesKeepTheRules) {
-  FaceTexts texts;
-  for (const EnumDesc& enumeration : Enumerations()) {
+TEST(Catalog, TablesKeepTheRules) {
+  CatalogTexts texts;
+  for (const EnumDesc& enumeration : LibraryCatalog().enumerations) {
     texts.Everything(*enumeration.identity);
     for (const EnumItem& item : enumeration.items) texts.Name(item.name);
   }
-  for (const RecordEntry& record : Records()) {
-    texts.Everything(*record.desc->identity);
-    for (const FieldDesc& field : record.desc->fields) {
+  for (const RecordDesc& record : LibraryCatalog().records) {
+    texts.Everything(*record.identity);
+    for (const FieldDesc& field : record.fields) {
       texts.Name(field.name);
       texts.Help(field.help);
     }
@@ -171,7 +170,7 @@ TEST(Face, TablesKeepTheRules) {
     texts.Everything(*entry->identity);
     texts.Guid(entry->identity->interfaceGuid);
     for (const MemberDesc& member : entry->members->rows) {
-      SCOPED_TRACE(MemberText(*entry, member));
+      SCOPED_TRACE(MemberText({entry->identity, entry->members}, member));
       texts.Name(member.name);
       texts.Help(member.help);
       for (const ParameterDesc& parameter : entry->members->Parameters(member)) texts.Name(parameter.name);
@@ -181,8 +180,8 @@ TEST(Face, TablesKeepTheRules) {
 }
 
 // A changed line here is a changed face: programs in the field call by id, slot and name. The file is edited by hand.
-TEST(Face, IsTheGoldenOne) {
-  EXPECT_EQ(ReadTestFile("golden/typelib.txt"), FaceText());
+TEST(Catalog, IsTheGoldenOne) {
+  EXPECT_EQ(ReadTestFile("golden/typelib.txt"), CatalogText(LibraryCatalog()));
 }
 
 }  // namespace

@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "qzbase/automation/idl/Face.h"
+#include "qzbase/automation/Catalog.h"
 
 namespace qzbase::automation::idl {
 
 // One line a fault.
-std::vector<std::string> FaultsOf(const Face& pFace);
+std::vector<std::string> FaultsOf(const Catalog& pCatalog);
 
 }  // namespace qzbase::automation::idl

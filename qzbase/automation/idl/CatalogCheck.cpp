@@ -1,4 +1,4 @@
-#include "qzbase/automation/idl/FaceCheck.h"
+#include "qzbase/automation/idl/CatalogCheck.h"
 
 #include <map>
 #include <set>
@@ -26,12 +26,12 @@ bool IsAscii(std::u16string_view pText) {
 
 class Checker {
  public:
-  explicit Checker(const Face& pFace) {
+  explicit Checker(const Catalog& pCatalog) {
     See(kLibraryName, "the library");
     See(kResultName, "every result");
-    for (const EnumDesc& enumeration : pFace.enumerations) Check(enumeration);
-    for (const RecordDesc& record : pFace.records) Check(record);
-    for (const ClassDesc& each : pFace.classes) Check(each);
+    for (const EnumDesc& enumeration : pCatalog.enumerations) Check(enumeration);
+    for (const RecordDesc& record : pCatalog.records) Check(record);
+    for (const ClassDesc& each : pCatalog.classes) Check(each);
   }
 
   std::vector<std::string> Faults() && { return std::move(faults_); }
@@ -85,7 +85,8 @@ class Checker {
     CheckType(pParameter.type, pWhere);
     if (!IsAscii(pParameter.defaultValue.text)) Fault(pWhere, "the default is not a plain ASCII text");
     const TypeDesc& type = pParameter.type;
-    if (type.base == BaseType::Record && !type.isArray && !type.isByRef) Fault(pWhere, "a record is passed by value");
+    if (type.base == BaseType::Record && !type.isArray && !pParameter.IsByRef())
+      Fault(pWhere, "a record is passed by value");
   }
 
   void CheckType(const TypeDesc& pType, const std::string& pWhere) {
@@ -100,8 +101,8 @@ class Checker {
 
 }  // namespace
 
-std::vector<std::string> FaultsOf(const Face& pFace) {
-  return Checker(pFace).Faults();
+std::vector<std::string> FaultsOf(const Catalog& pCatalog) {
+  return Checker(pCatalog).Faults();
 }
 
 }  // namespace qzbase::automation::idl

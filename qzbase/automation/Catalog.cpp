@@ -1,4 +1,4 @@
-#include "qzbase/automation/idl/Face.h"
+#include "qzbase/automation/Catalog.h"
 
 #include <array>
 
@@ -12,7 +12,7 @@
 #include "qzbase/automation/members/Platform.h"
 #include "qzbase/automation/members/Text.h"
 
-namespace qzbase::automation::idl {
+namespace qzbase::automation {
 namespace {
 
 template <class... C>
@@ -34,12 +34,12 @@ constexpr auto kClasses = DescribeClasses(AllClasses());
 constexpr auto kRecords = DescribeRecords(AllRecords());
 constexpr auto kEnumerations = DescribeEnumerations(AllEnumerations());
 
-constexpr Face kLibraryFace = {kClasses, kRecords, kEnumerations};
+constexpr Catalog kCatalog = {kClasses, kRecords, kEnumerations};
 
 }  // namespace
 
-const Face& LibraryFace() {
-  return kLibraryFace;
+const Catalog& LibraryCatalog() {
+  return kCatalog;
 }
 
-}  // namespace qzbase::automation::idl
+}  // namespace qzbase::automation

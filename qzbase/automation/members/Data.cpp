@@ -1,9 +1,0 @@
-#include "qzbase/automation/members/Data.h"
-
-#include "qzbase/automation/RoomEntries.h"
-
-namespace qzbase::automation {
-
-template struct RoomEntries<DataClasses>;
-
-}  // namespace qzbase::automation

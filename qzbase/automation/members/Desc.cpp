@@ -1,9 +1,0 @@
-#include "qzbase/automation/members/Desc.h"
-
-#include "qzbase/automation/RoomEntries.h"
-
-namespace qzbase::automation {
-
-template struct RoomEntries<DescClasses>;
-
-}  // namespace qzbase::automation

@@ -1,9 +1,0 @@
-#include "qzbase/automation/members/Text.h"
-
-#include "qzbase/automation/RoomEntries.h"
-
-namespace qzbase::automation {
-
-template struct RoomEntries<TextClasses>;
-
-}  // namespace qzbase::automation

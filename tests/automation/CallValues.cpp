@@ -1,0 +1,191 @@
+#include "tests/automation/CallValues.h"
+
+#include <algorithm>
+#include <set>
+
+#include "qzbase/automation/RecordObject.h"
+#include "qzbase/automation/members/Core.h"
+#include "qzbase/automation/members/Data.h"
+#include "qzbase/automation/members/Layout.h"
+#include "qzbase/automation/members/Platform.h"
+#include "qzbase/os/Utf8.h"
+#include "qzbase/runtime/Convert.h"
+#include "tests/support/CorpusValue.h"
+
+namespace qzbase::tests {
+
+using namespace automation;
+using namespace runtime;
+
+namespace {
+
+// They wait, show boxes, change files and folders or the machine, or have an answer of their own each time.
+const std::set<std::string_view> kLeftOut = {
+    "WaitUntil",     "SleepSecs",     "WaitSecs",        "SignalWindowsAppBusy", "DisplayError",  "DisplayMessage",
+    "GetGUID",       "GetGUIDString", "TimeInCentiSecs", "NewTimeStamp",         "DeleteFile",    "ChangeDir",
+    "MakeDir",       "DelDir",        "GetDirContents",  "WindowsCheckUser",     "SetDbgFileHdl", "ShowDebugLine",
+    "REGDeleteValue"};
+
+template <class E>
+Variant ArrayOf(std::vector<E> pElements) {
+  return Variant(Array<E>(1, std::move(pElements)));
+}
+
+template <class... R>
+Ref<Object> NewRecord(TypeList<R...>, std::string_view pName) {
+  Ref<Object> result;
+  ((pName == identity<R>.name ? void(result = New<RecordObject<R>>()) : void()), ...);
+  return result;
+}
+
+Variant RightArray(BaseType pBase) {
+  switch (pBase) {
+    case BaseType::Byte:
+      return ArrayOf<std::uint8_t>({0, 200});
+    case BaseType::Long:
+      return ArrayOf<std::int32_t>({3, -1});
+    case BaseType::Double:
+      return ArrayOf<double>({2.5, -1e300});
+    case BaseType::Boolean:
+      return ArrayOf<bool>({true, false});
+    case BaseType::Text:
+      return ArrayOf<std::u16string>({u"a", u""});
+    default:
+      return {};
+  }
+}
+
+std::string ShowObject(Object* pObject);
+
+template <class E>
+std::string ShowElements(const Array<E>& pArray) {
+  if (!pArray.IsAllocated()) return "unallocated";
+  std::string text = "[" + std::to_string(pArray.LowerBound()) + ":";
+  for (const auto& each : pArray.Elements()) text += " " + Show(VariantValue<E>::To(static_cast<const E&>(each)));
+  return text + "]";
+}
+
+std::string ShowObject(Object* pObject) {
+  if (!pObject) return "unset";
+  if (auto* record = dynamic_cast<Record*>(pObject)) {
+    std::string text = std::string(record->Desc().identity->name) + " {";
+    for (std::size_t i = 0; i < record->Desc().fields.size(); ++i) text += " " + Show(record->FieldValue(i));
+    return text + "}";
+  }
+  const ClassEntry* entry = ClassOf(*pObject);
+  if (!entry) return "stranger";
+  const bool hasText = entry->members->Find(u"GetString") != kNoMember;
+  return std::string(entry->identity->name) +
+         (hasText ? " " + TextOrError([&] { return Show(pObject->Call(u"GetString")); }) : "");
+}
+
+}  // namespace
+
+CallKind MemberCall::Kind() const {
+  static constexpr CallKind kKinds[] = {CallKind::Method, CallKind::Get, CallKind::Let, CallKind::Set};
+  return kKinds[static_cast<std::size_t>(Member().kind)];
+}
+
+std::string MemberCall::Name() const {
+  return std::string(entry->identity->name) + "." + std::string(Member().name);
+}
+
+std::vector<MemberCall> AllMembers() {
+  std::vector<MemberCall> calls;
+  for (const ClassEntry* entry : Classes())
+    for (std::size_t row = 0; row < entry->members->rows.size(); ++row)
+      if (!kLeftOut.contains(entry->members->rows[row].name)) calls.push_back({entry, row});
+  return calls;
+}
+
+MemberCall WithRightArguments(MemberCall pCall) {
+  pCall.arguments.clear();
+  for (const ParameterDesc& parameter : pCall.entry->members->Parameters(pCall.Member()))
+    pCall.arguments.push_back({RightValue(parameter.type)});
+  return pCall;
+}
+
+Variant RightValue(const TypeDesc& pType) {
+  if (pType.isArray) return RightArray(pType.base);
+  switch (pType.base) {
+    case BaseType::Boolean:
+      return Variant(true);
+    case BaseType::Byte:
+    case BaseType::Integer:
+      return Variant(std::int16_t{7});
+    case BaseType::Long:
+    case BaseType::Enumeration:
+      return Variant(1);
+    case BaseType::Single:
+      return Variant(1.5F);
+    case BaseType::Double:
+    case BaseType::Variant:
+      return Variant(2.5);
+    case BaseType::Date:
+      return Variant(Date{40000.25});
+    case BaseType::Text:
+      return Variant(u"a;b");
+    case BaseType::Class:
+      return Variant(FindClass(os::FromUtf8(std::string(pType.name)))->create());
+    case BaseType::Record:
+      return Variant(NewRecord(AllRecords(), pType.name));
+    default:
+      return Variant(FindClass(u"CDblVector")->create());
+  }
+}
+
+Variant WrongValue(const TypeDesc& pType) {
+  if (pType.isArray) return Variant(5);
+  if (pType.base == BaseType::Object || pType.base == BaseType::Class || pType.base == BaseType::Record)
+    return Variant(u"x");
+  return pType.base == BaseType::Text ? Variant(Null()) : Variant(u"x y");
+}
+
+Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
+  switch (pRandom() % 14) {
+    case 0:
+      return {};
+    case 1:
+      return Variant(Null());
+    case 2:
+      return Variant(nullptr);
+    case 3:
+      return Variant(std::int16_t{-3});
+    case 4:
+      return Variant(static_cast<std::int32_t>(pRandom() % 7) - 2);
+    case 5:
+      return Variant(1e300);
+    case 6:
+      return Variant(u"a;bb;ccc;a longer text than short texts are");
+    case 7:
+      return RightValue({BaseType::Class, false, 0, "CStrVector"});
+    case 8:
+      return RightArray(BaseType::Text);
+    case 9:
+      return WrongValue(pType);
+    default:
+      return RightValue(pType);
+  }
+}
+
+std::string Show(const Variant& pValue) {
+  if (const AnyArray* array = pValue.IfArray())
+    return std::visit([](const auto& pArray) { return ShowElements(pArray); }, *array);
+  if (const auto* object = pValue.If<Ref<Object>>()) return ShowObject(object->get());
+  return std::to_string(static_cast<int>(pValue.Kind())) + " " + (pValue.IsNull() ? "" : os::ToUtf8(ToText(pValue)));
+}
+
+CallOutcome CallNatively(Object& pObject, const MemberCall& pCall) {
+  CallOutcome outcome;
+  std::vector<Variant> values;
+  for (const CallArgument& each : pCall.arguments) values.push_back(each.value);
+  std::vector<Variant*> pointers;
+  for (std::size_t i = 0; i < values.size(); ++i)
+    pointers.push_back(pCall.arguments[i].isOmitted ? nullptr : &values[i]);
+  outcome.answer =
+      TextOrError([&] { return Show(InvokeById(*pCall.entry, pObject, pCall.Member().id, pCall.Kind(), pointers)); });
+  for (const Variant& each : values) outcome.arguments.push_back(Show(each));
+  return outcome;
+}
+
+}  // namespace qzbase::tests

@@ -1,0 +1,21 @@
+// The calls of hosts, made from the description of a member: late bound by its identifier, early bound by its slot.
+#pragma once
+
+#include "tests/automation/CallValues.h"
+
+// The tables stand before the system's headers.
+#include "qzbase/automation/com/OuterFace.h"
+
+namespace qzbase::tests {
+
+// A member of a fresh object, whose variables are passed by reference where the table says so.
+CallOutcome CallLate(automation::com::OuterFace& pFace, const MemberCall& pCall);
+CallOutcome CallEarly(automation::com::OuterFace& pFace, const MemberCall& pCall);
+
+// By variants of any kind; only the number of the error comes back, 0 for none.
+std::int32_t InvokeWith(automation::com::OuterFace& pFace, const MemberCall& pCall, std::vector<VARIANT>& pArguments);
+
+// The object behind a fresh face; the reference is the caller's.
+automation::com::OuterFace* NewFace(const automation::ClassEntry& pEntry);
+
+}  // namespace qzbase::tests

@@ -1,0 +1,75 @@
+// One walk over every member of every class: a call natively by name, late bound and early bound has the same result,
+// the same error and leaves the same behind in the caller's variables. It names no member.
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "tests/automation/calls/HostCalls.h"
+
+namespace qzbase::tests {
+namespace {
+
+using namespace automation;
+using namespace runtime;
+
+// In a thread of its own, so that no call sees what another one has done to the thread's state.
+template <class Body>
+CallOutcome Alone(Body pBody) {
+  CallOutcome outcome;
+  std::thread([&] {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    outcome = pBody();
+    CoUninitialize();
+  }).join();
+  return outcome;
+}
+
+template <class Make>
+void ExpectAgreement(Make pMake, const char* pWhat, bool pCanBeEarly) {
+  std::string name;
+  const CallOutcome native = Alone([&] {
+    const MemberCall call = pMake();
+    name = call.Name();
+    return CallNatively(*call.entry->create(), call);
+  });
+  const auto byHost = [&](auto pCallIt) {
+    return Alone([&] {
+      const MemberCall call = pMake();
+      com::OuterFace* face = NewFace(*call.entry);
+      const CallOutcome outcome = pCallIt(*face, call);
+      face->Release();
+      return outcome;
+    });
+  };
+  const auto expect = [&](const CallOutcome& pOther, const char* pBinding) {
+    EXPECT_EQ(native.answer, pOther.answer) << name << ", " << pWhat << ", " << pBinding;
+    EXPECT_EQ(native.arguments, pOther.arguments) << name << ", " << pWhat << ", " << pBinding;
+  };
+  expect(byHost(CallLate), "late");
+  if (pCanBeEarly) expect(byHost(CallEarly), "early");
+}
+
+void Walk(const MemberCall& pMember) {
+  ExpectAgreement([&] { return WithRightArguments(pMember); }, "right arguments", true);
+  const auto parameters = pMember.entry->members->Parameters(pMember.Member());
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const ParameterDesc& parameter = parameters[i];
+    const auto with = [&, i](CallArgument pArgument) {
+      MemberCall call = WithRightArguments(pMember);
+      call.arguments[i] = std::move(pArgument);
+      return call;
+    };
+    const bool isObject = parameter.type.base == BaseType::Object || parameter.type.base == BaseType::Class;
+    const bool hasDefault = parameter.IsOptional() && !parameter.IsByRef();
+    ExpectAgreement([&] { return with({Variant(), true}); }, "omitted", hasDefault);
+    ExpectAgreement([&] { return with({WrongValue(parameter.type)}); }, "wrong kind", false);
+    ExpectAgreement([&] { return with({Variant(nullptr)}); }, "unset", isObject && !parameter.type.isArray);
+  }
+}
+
+TEST(Calls, AgreeHoweverTheyAreMade) {
+  for (const MemberCall& member : AllMembers()) Walk(member);
+}
+
+}  // namespace
+}  // namespace qzbase::tests
