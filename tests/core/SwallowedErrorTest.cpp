@@ -1,7 +1,10 @@
 // Members that raise nothing leave the thread's last error as it was, whatever fails inside and whatever a host has
 // done to the table of errors: it may be the very error that is being shown.
+#include <cmath>
 #include <limits>
 #include <thread>
+#include <tuple>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -28,26 +31,24 @@ struct Failing : runtime::Object {
   }
 };
 
-const struct {
-  const char* name;
-  void (*call)();
-} kCalls[] = {
+const std::pair<const char*, void (*)()> kCalls[] = {
     {"RoundUp", [] { EXPECT_EQ(GCMath::RoundUp(kGreatest, 400), 0); }},
     {"RoundSigFigs", [] { GCMath::RoundSigFigs(kGreatest, std::numeric_limits<std::int32_t>::max()); }},
     {"CalcMean",
      [] {
-       const struct {
-         std::vector<double> values;
-         std::int32_t error;
-         double mean;
-       } rows[] = {{{kGreatest, kGreatest}, 6, kInvalid}, {{1e200, -1e200}, 6, 0}};
+       const std::tuple<std::vector<double>, std::int32_t, double, double> rows[] = {
+           {{1, 2, 3, 4}, 0, 2.5, std::sqrt(1.25)},
+           {{}, 0, kInvalid, kInvalid},
+           {{1, kInvalid, 3}, 0, kInvalid, kInvalid},
+           {{kGreatest, kGreatest}, 6, kInvalid, kInvalid},
+           {{1e200, -1e200}, 6, 0, kInvalid}};  // known already when a square overflows
        double mean = 1, deviation = 1;
-       for (const auto& row : rows) {
+       for (const auto& [values, error, expected, spread] : rows) {
          CDblVector vector;
-         for (const double value : row.values) vector.AddValue(value);
-         EXPECT_EQ(GCMath::CalcMean(&vector, mean, deviation), row.error);
-         EXPECT_EQ(mean, row.mean);  // known already when a square overflows
-         EXPECT_EQ(deviation, kInvalid);
+         for (const double value : values) vector.AddValue(value);
+         EXPECT_EQ(GCMath::CalcMean(&vector, mean, deviation), error);
+         EXPECT_DOUBLE_EQ(mean, expected);
+         EXPECT_DOUBLE_EQ(deviation, spread);
        }
        EXPECT_EQ(GCMath::CalcMean(nullptr, mean, deviation), 91);
        EXPECT_EQ(mean, kInvalid);
@@ -73,31 +74,18 @@ const struct {
        EXPECT_EQ(vector.Value(1), 1);
      }},
     {"LocalizeForm", [] { GCResource::LocalizeForm(New<Failing>().get()); }},
-    {"ShowDebugLine",
-     [] {
-       GCBase::SetDbgWindow(New<Failing>());
-       GCBase::ShowDebugLine(u"line");
-       GCBase::SetDbgWindow(nullptr);
-     }},
-    {"DisplayError",
-     [] {
-       GCBase::SetErrorDisplay(New<Failing>(), 1);
-       GCBase::DisplayError(u"text");
-     }},
-    {"CheckStopFlag",
-     [] {
-       GCBase::LetStopFlag(true);
-       EXPECT_EQ(GCBase::CheckStopFlag(), 1007);
-     }},
+    {"ShowDebugLine", [] { GCBase::ShowDebugLine(u"line"); }},
+    {"DisplayError", [] { GCBase::DisplayError(u"text"); }},
+    {"CheckStopFlag", [] { EXPECT_EQ(GCBase::CheckStopFlag(), 1007); }},
     {"WindowsCheckUser",
-     [] {
-       EXPECT_EQ(GCBase::WindowsCheckUser(u"", {u"no\0user", 7}, u""), 1008);
-     }},
-};
+     [] { EXPECT_EQ(GCBase::WindowsCheckUser(u"", std::u16string_view(u"no\0user", 7), u""), 1008); }}};
 
 TEST(SwallowedError, LeavesTheLastErrorAlone) {
   std::thread([] {
-    os::SetMessageHook([](std::u16string_view, std::u16string_view) {});
+    os::SetMessageHook([](auto, auto) {});
+    GCBase::SetDbgWindow(New<Failing>());
+    GCBase::SetErrorDisplay(New<Failing>(), 1);
+    GCBase::LetStopFlag(true);
     // The entries of the built-in errors are gone, and there is no room for another one.
     GCError::SetErrors(runtime::Array<TErrDesc>(std::numeric_limits<std::int32_t>::max() - 1, {{}, {}}));
     for (const auto& [name, call] : kCalls) {

