@@ -17,7 +17,6 @@ namespace {
 
 using runtime::Object;
 using runtime::Variant;
-using runtime::VariantKind;
 
 // ---- A layout as a list of cells: all that its properties say, at all their indices, records field by field.
 
@@ -125,16 +124,10 @@ std::string Dump(Object& pLayout, const std::vector<Cell>& pCells) {
 }
 
 Variant Another(const Variant& pValue) {
-  switch (pValue.Kind()) {
-    case VariantKind::Boolean:
-      return !*pValue.If<bool>();
-    case VariantKind::String:
-      return *pValue.If<std::u16string>() + u"x\u00E4";
-    case VariantKind::Double:
-      return *pValue.If<double>() + 1.5;
-    default:
-      return runtime::ToLong(pValue) + 1;
-  }
+  if (const bool* truth = pValue.If<bool>()) return !*truth;
+  if (const auto* text = pValue.If<std::u16string>()) return *text + u"x\u00E4";
+  if (const double* number = pValue.If<double>()) return *number + 1.5;
+  return runtime::ToLong(pValue) + 1;
 }
 
 // ---- Records.
@@ -189,7 +182,7 @@ TYPED_TEST(GraphLayout, WhatIsWrittenIsReadCopiedComparedSavedAndLoaded) {
 
     const auto copy = layout.GetCopy();
     EXPECT_EQ(TextsOf(*copy, cells), changed);
-    if (value.Kind() == VariantKind::String) LetValueOf(*copy, cell, u"X\u00C4");
+    if (value.Kind() == runtime::VariantKind::String) LetValueOf(*copy, cell, u"X\u00C4");
     EXPECT_TRUE(copy->IsEqual(layout));
     EXPECT_EQ(fresh.IsEqual(layout), this->kIs3D && cell.name == u"Border");
     TypeParam loaded;
@@ -237,12 +230,10 @@ TEST(CurveStyles, GrowByTheirNumberAlone) {
   EXPECT_EQ(layout.CurveStyle(2), CLayoutGraph::DefaultCurveStyle(2));
   layout.LetNrCurveStyles(1);
   layout.LetNrCurveStyles(1'000'000'000);
-  EXPECT_EQ(layout.CurveStyle(1), style);
-  EXPECT_EQ(layout.CurveStyle(3).Color, qzRed);
+  EXPECT_TRUE(layout.CurveStyle(1) == style && layout.CurveStyle(3) == CLayoutGraph::DefaultCurveStyle(3));
   EXPECT_TRUE(layout.GetCopy()->IsEqual(layout));
-
   layout.LetNrCurveStyles(0);
-  EXPECT_EQ(layout.CurveStyle(1).Color, qzBlue);
+  EXPECT_EQ(layout.CurveStyle(1), CLayoutGraph::DefaultCurveStyle(1));
   EXPECT_EQ(ErrorOf([&] { layout.CurveStyle(0); }), kSubscript);
   EXPECT_EQ(ErrorOf([&] { layout.LetCurveStyle(-1, style); }), kSubscript);
 }
@@ -283,11 +274,9 @@ TEST(LayoutTable, InfosAreAddressedByTheTextOfANumber) {
   EXPECT_EQ(*layout.AddGenericInfo(u"7", EVTLong, 42).If<std::int32_t>(), 1);
   layout.AddGenericInfo(u"7", EVTLong, 43);
   layout.AddGenericInfo(u"-5", EVTString, u"x");
-  const auto value = [&](std::int32_t pID) { return *layout.GetGenericInfoValue(pID, 0).If<std::int32_t>(); };
-  EXPECT_EQ(value(7), 42);
-  EXPECT_EQ(value(1), 0);
   layout.LetGenericInfoValue(-5, 8);
-  EXPECT_EQ(value(-5), 8);
+  for (const auto& [id, value] : {std::pair(7, 42), {1, 0}, {-5, 8}})
+    EXPECT_EQ(*layout.GetGenericInfoValue(id, 0).If<std::int32_t>(), value);
   EXPECT_EQ(ErrorOf([&] { layout.LetGenericInfoValue(2, 0); }), kSubscript);
 
   CEntryDescs descs;

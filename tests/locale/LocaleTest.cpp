@@ -25,17 +25,15 @@ using runtime::Variant;
 constexpr std::int32_t kOutOfStack = NumberOf(RuntimeError::OutOfStackSpace);
 
 // Items between ";", with "|" for NUL.
-void LoadTexts(std::u16string_view pMsg, std::u16string_view pErrMsg) {
-  CStrVector vectors[2];
-  vectors[0].SetFromString(pMsg);
-  vectors[1].SetFromString(pErrMsg);
-  for (CStrVector& vector : vectors)
-    for (std::int32_t i = 1; i <= vector.Size(); ++i) {
-      std::u16string item = vector.Value(i);
-      std::replace(item.begin(), item.end(), u'|', u'\0');
-      vector.LetValue(i, item);
-    }
-  GCResource::SetLocalizedStrings(vectors[0], &vectors[1]);
+void LoadTexts(const char16_t* pMsg, const char16_t* pErrMsg) {
+  const auto fill = [](CStrVector& pVector, std::u16string pItems) {
+    std::replace(pItems.begin(), pItems.end(), u'|', u'\0');
+    pVector.SetFromString(pItems);
+  };
+  CStrVector messages, errors;
+  fill(messages, pMsg);
+  fill(errors, pErrMsg);
+  GCResource::SetLocalizedStrings(messages, &errors);
 }
 
 TEST(Strings, EveryTextIsTranslatedOnItsThread) {

@@ -54,10 +54,7 @@ TEST(UserLocale, IsTheOneThatTheEnvironmentNames) {
 TEST(UserLocale, CategoriesMix) {
   const ScopedEnvironment environment({{"LANG", "en_US.UTF-8"}, {"LC_NUMERIC", "de_DE.UTF-8"}, {"LC_TIME", "sv_SE"}});
   const os::LocaleRules rules = os::UserLocaleRules();
-  EXPECT_EQ(rules.name, u"en-US");
-  EXPECT_EQ(rules.decimal, u",");
-  EXPECT_EQ(rules.currency, u"$");
-  EXPECT_EQ(rules.shortDate, u"yyyy-MM-dd");
+  EXPECT_EQ(rules.name + rules.decimal + rules.currency + rules.shortDate, u"en-US,$yyyy-MM-dd");
 }
 
 }  // namespace
