@@ -157,6 +157,10 @@ TEST(ErrorRaise, MakesTheMessageOfANumber) {
     runtime::SetLastError({9, u"Server", u""});
     for (const auto& [code, message, namesSource] : rows)
       EXPECT_EQ(GCError::ErrorMessage(code), (namesSource ? u"Server: " : u"") + message);
+    TErrDesc renumbered = GCError::EDesc(12);
+    renumbered.Code = 4711;
+    EXPECT_TRUE(GCError::SetEDesc(12, renumbered).IsEmpty());
+    EXPECT_EQ(GCError::ErrorMessage(4711), u"NoTextInfo (150 [0;100])");
     GCError::UpdateErrMessage(11, u"Now with text");
     EXPECT_EQ(GCError::ErrorMessage(1011), u"Server: Now with text");
   });

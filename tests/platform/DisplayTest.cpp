@@ -96,6 +96,7 @@ TEST(Display, DebugLines) {
       {{{u"Height", 1000}, {u"Font", font}}, 0, 5, 5, 3},  // 2 lines
       {{{u"Height", 1000}, {u"FontName", u"TAHOMA"}, {u"FontSize", 11.5}}, -1, 5, 5, 3},
       {{{u"Height", 1000}, {u"Font", FontOf(u"Tahoma", 11)}}, 0, 5, 5, 1},
+      {{{u"Height", 1000}, {u"Font", FontOf(u"Tahoma", 12)}}, 0, 5, 5, 1},
       {{{u"Height", 1000}, {u"Font", FontOf(u"Arial", 11.5)}}, 0, 5, 5, 1},
       {{{u"Height", 1000}}, 3, 9, 4, 0},  // dropped before the new one comes
       {{{u"Height", 1000}}, 0, 305, 301, 297},

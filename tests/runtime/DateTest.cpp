@@ -137,6 +137,9 @@ TEST(DateTest, Weeks) {
       {{.year = 9999, .month = 12, .day = 31}, {1, 2}, "5 52"}};
   for (const auto& [day, rule, expected] : rows)
     EXPECT_EQ(Answer(MakeDate(day), u"w ww", "en-US", rule), expected) << Iso(day);
+  for (const auto& [pattern, expected] :
+       {std::pair(u"h;am/pm", "0"), {u";d", ""}, {u"yyyyy", "error 5"}, {u"am/pm ampm", "error 5"}})
+    EXPECT_EQ(Answer({1}, pattern, "en-US", {}), expected) << ToUtf8(pattern);
   for (const WeekRule& none : {WeekRule{8, 1}, WeekRule{1, 4}}) EXPECT_EQ(Answer({1}, u"w", "en-US", none), "error 5");
 }
 

@@ -70,7 +70,7 @@ TEST(NumberPattern, TheShortWayPrintsWhatTheLongWayDoes) {
 }
 
 TEST(NumberPattern, RefusesWhatIsNoNumberPattern) {
-  for (const char16_t* pattern : {u"dd.mm.yyyy", u"Long Date", u"@@"})
+  for (const char16_t* pattern : {u"0;0;0;0;0", u"dd.mm.yyyy", u"Long Date", u"@@"})
     EXPECT_EQ(TextOrError([&] { return ToUtf8(FormatNumber(1.0, pattern)); }), "error 5") << ToUtf8(pattern);
   EXPECT_EQ(TextOrError([] { return ToUtf8(FormatNumber(1.0, NumberStyle{.digits = 10})); }), "error 5");
   EXPECT_EQ(TextOrError([] { return ToUtf8(Format(Variant(nullptr), u"0")); }), "error 91");
