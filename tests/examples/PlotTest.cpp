@@ -1,3 +1,6 @@
+#include <tuple>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "examples/plot/DateTicks.h"
@@ -14,30 +17,23 @@ constexpr double kJanuary15 = 43845;  // 2020
 constexpr double kJune15 = 43997;
 
 TEST(Plot, StepsAreNice) {
-  const struct {
-    double span, most, step;
-  } rows[] = {{100, 8, 20}, {1, 10, 0.1}, {0.3, 3, 0.1}, {7, 7, 1}, {99, 10, 10}, {1e-9, 5, 2e-10}, {51, 1, 100}};
-  for (const auto& row : rows) EXPECT_NEAR(NiceStep(row.span, row.most) / row.step, 1, 1e-12) << row.span;
+  const std::tuple<double, double, double> rows[] = {{100, 8, 20}, {1, 10, 0.1},     {0.3, 3, 0.1}, {7, 7, 1},
+                                                     {99, 10, 10}, {1e-9, 5, 2e-10}, {51, 1, 100}};
+  for (const auto& [span, most, step] : rows) EXPECT_NEAR(NiceStep(span, most) / step, 1, 1e-12) << span;
 }
 
 TEST(Plot, StepsOfDatesAreCalendarSteps) {
-  const struct {
-    double days, most;
-    DateStep step;
-  } rows[] = {
-      {0.0001, 9, {.seconds = 1}},     {1, 8, {.seconds = 10800}},    {7, 8, {.seconds = 86400}},
-      {60, 10, {.seconds = 604800}},   {365, 13, {.months = 1}},      {365, 4, {.months = 3}},
-      {22700, 16, {.months = 5 * 12}}, {3.6e6, 5, {.months = 24000}},
-  };
-  for (const auto& row : rows) EXPECT_EQ(NiceDateStep(row.days, row.most), row.step) << row.days;
+  const std::tuple<double, double, DateStep> rows[] = {{0.0001, 9, {.seconds = 1}},     {1, 8, {.seconds = 10800}},
+                                                       {7, 8, {.seconds = 86400}},      {60, 10, {.seconds = 604800}},
+                                                       {365, 13, {.months = 1}},        {365, 4, {.months = 3}},
+                                                       {22700, 16, {.months = 5 * 12}}, {3.6e6, 5, {.months = 24000}}};
+  for (const auto& [days, most, step] : rows) EXPECT_EQ(NiceDateStep(days, most), step) << days;
   EXPECT_EQ(DateStepOf(365.25), DateStep{.months = 12});
   EXPECT_EQ(DateStepOf(0.25), DateStep{.seconds = 21600});
 }
 
 TEST(Plot, Ticks) {
-  const struct {
-    Values got, expected;
-  } rows[] = {
+  const std::pair<Values, Values> rows[] = {
       {StepTicks({-3, 11}, 5), {0, 5, 10}},
       {StepTicks({0.1, 0.3}, 0.1), {0.1, 0.2, 0.30000000000000004}},  // an end that the arithmetic misses
       {StepTicks({0, 1}, 1e-9), {}},
@@ -48,9 +44,8 @@ TEST(Plot, Ticks) {
       {DateTicks({2, 20}, {.seconds = 604800}), {2, 9, 16}},  // Mondays
       {DateTicks({-0.5, 0.5}, {.seconds = 21600}), {-0.5, -0.25, 0, 0.25, 0.5}},
       {DateTicks({kJanuary15, kJune15}, {.months = 1}), {43862, 43891, 43922, 43952, 43983}},
-      {DateTicks({-1e9, -1e8}, {.months = 1}), {}},
-  };
-  for (const auto& row : rows) EXPECT_EQ(row.got, row.expected);
+      {DateTicks({-1e9, -1e8}, {.months = 1}), {}}};
+  for (const auto& [ticks, expected] : rows) EXPECT_EQ(ticks, expected);
 }
 
 TEST(Plot, ADateBeforeDay0RunsEvenly) {
