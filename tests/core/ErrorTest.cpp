@@ -91,7 +91,7 @@ TEST(ErrorRegistry, IsReplacedWithTheBoundsOfTheArray) {
 
 TEST(ErrorRegistry, ShowsAFailedRegistration) {
   // The number would leave the 32-bit range; the position would be below 1.
-  for (const std::int32_t bound : {kMost - 1, -3}) {
+  for (const std::int32_t bound : {kMost - 1000, -1}) {
     OnFreshThread([&] {
       std::u16string shown;
       os::SetMessageHook([&](auto pText, auto pCaption) { shown.append(pCaption).append(pText); });
