@@ -1,6 +1,6 @@
 #include "tests/automation/CallValues.h"
 
-#include <algorithm>
+#include <random>
 #include <set>
 
 #include "qzbase/automation/RecordObject.h"
@@ -79,6 +79,33 @@ std::string ShowObject(Object* pObject) {
          (hasText ? " " + TextOrError([&] { return Show(pObject->Call(u"GetString")); }) : "");
 }
 
+Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
+  switch (pRandom() % 14) {
+    case 0:
+      return {};
+    case 1:
+      return Variant(Null());
+    case 2:
+      return Variant(nullptr);
+    case 3:
+      return Variant(std::int16_t{-3});
+    case 4:
+      return Variant(static_cast<std::int32_t>(pRandom() % 7) - 2);
+    case 5:
+      return Variant(1e300);
+    case 6:
+      return Variant(u"a;bb;ccc;a longer text than short texts are");
+    case 7:
+      return RightValue({BaseType::Class, false, 0, "CStrVector"});
+    case 8:
+      return RightArray(BaseType::Text);
+    case 9:
+      return WrongValue(pType);
+    default:
+      return RightValue(pType);
+  }
+}
+
 }  // namespace
 
 CallKind MemberCall::Kind() const {
@@ -141,31 +168,12 @@ Variant WrongValue(const TypeDesc& pType) {
   return pType.base == BaseType::Text ? Variant(Null()) : Variant(u"x y");
 }
 
-Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
-  switch (pRandom() % 14) {
-    case 0:
-      return {};
-    case 1:
-      return Variant(Null());
-    case 2:
-      return Variant(nullptr);
-    case 3:
-      return Variant(std::int16_t{-3});
-    case 4:
-      return Variant(static_cast<std::int32_t>(pRandom() % 7) - 2);
-    case 5:
-      return Variant(1e300);
-    case 6:
-      return Variant(u"a;bb;ccc;a longer text than short texts are");
-    case 7:
-      return RightValue({BaseType::Class, false, 0, "CStrVector"});
-    case 8:
-      return RightArray(BaseType::Text);
-    case 9:
-      return WrongValue(pType);
-    default:
-      return RightValue(pType);
-  }
+MemberCall WithRandomArguments(MemberCall pCall, unsigned pSeed) {
+  std::mt19937 random(pSeed);
+  pCall.arguments.clear();
+  for (const ParameterDesc& parameter : pCall.entry->members->Parameters(pCall.Member()))
+    pCall.arguments.push_back({RandomValue(random, parameter.type)});
+  return pCall;
 }
 
 std::string Show(const Variant& pValue) {

@@ -22,13 +22,6 @@ std::string ErrorText(HRESULT pResult, HRESULT pCode) {
   return "error " + std::to_string(NumberOfResult(pResult == DISP_E_EXCEPTION ? pCode : pResult));
 }
 
-VARTYPE TypeOf(const TypeDesc& pType) {
-  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
-                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
-  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
-  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
-}
-
 // What a slot takes: memory for the native, and the value or pointer that is passed.
 class SlotPassed {
  public:
@@ -90,6 +83,13 @@ std::string ShowResult(const TypeDesc& pType, std::byte* pNative) {
 
 }  // namespace
 
+VARTYPE TypeOf(const TypeDesc& pType) {
+  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
+                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
+  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
+  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
+}
+
 OuterFace* NewFace(const ClassEntry& pEntry) {
   return static_cast<OuterFace*>(reinterpret_cast<DualInterface*>(ToDispatch(pEntry.create())));
 }
@@ -128,7 +128,7 @@ CallOutcome CallLate(OuterFace& pFace, const MemberCall& pCall) {
   return outcome;
 }
 
-CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall) {
+CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall, std::size_t pNullAt) {
   const MemberDesc& member = pCall.Member();
   std::deque<SlotPassed> slots;
   std::vector<VARTYPE> types;
@@ -146,6 +146,7 @@ CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall) {
     types.push_back(VT_I8);
     passed.push_back(&pointer);
   }
+  if (pNullAt < passed.size()) passed[pNullAt]->llVal = 0;
   SetErrorInfo(0, nullptr);
   VARIANT answer{};
   DispCallFunc(pFace.AsDispatch(), (7 + pCall.row) * sizeof(void*), CC_STDCALL, VT_I4, static_cast<UINT>(types.size()),
@@ -155,20 +156,6 @@ CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall) {
   for (std::size_t i = 0; i < pCall.arguments.size(); ++i)
     outcome.arguments.push_back(pCall.arguments[i].isOmitted ? Show(pCall.arguments[i].value) : slots[i].Shown());
   return outcome;
-}
-
-std::int32_t InvokeWith(OuterFace& pFace, const MemberCall& pCall, std::vector<VARIANT>& pArguments) {
-  DISPID put = DISPID_PROPERTYPUT;
-  const bool isPut = pCall.Member().IsPut() && !pArguments.empty();
-  DISPPARAMS parameters{pArguments.data(), isPut ? &put : nullptr, static_cast<UINT>(pArguments.size()),
-                        isPut ? 1U : 0U};
-  OwnedVariant result;
-  EXCEPINFO exception{};
-  const HRESULT answer = pFace.AsDispatch()->Invoke(pCall.Member().id, IID_NULL, 0, static_cast<WORD>(pCall.Kind()),
-                                                    &parameters, &result.value, &exception, nullptr);
-  SysFreeString(exception.bstrSource);
-  SysFreeString(exception.bstrDescription);
-  return answer == S_OK ? 0 : NumberOfResult(answer == DISP_E_EXCEPTION ? exception.scode : answer);
 }
 
 }  // namespace qzbase::tests

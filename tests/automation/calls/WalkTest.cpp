@@ -1,5 +1,5 @@
 // One walk over every member of every class: a call natively by name, late bound and early bound has the same result,
-// the same error and leaves the same behind in the caller's variables. It names no member.
+// the same error and leaves the same behind in the caller's variables. A null pointer is refused. It names no member.
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -46,7 +46,17 @@ void ExpectAgreement(Make pMake, const char* pWhat, bool pCanBeEarly) {
     EXPECT_EQ(native.arguments, pOther.arguments) << name << ", " << pWhat << ", " << pBinding;
   };
   expect(byHost(CallLate), "late");
-  if (pCanBeEarly) expect(byHost(CallEarly), "early");
+  if (pCanBeEarly) expect(byHost([](auto& pFace, auto& pCall) { return CallEarly(pFace, pCall); }), "early");
+}
+
+void ExpectNullRefused(const MemberCall& pMember, std::size_t pAt) {
+  const CallOutcome outcome = Alone([&] {
+    com::OuterFace* face = NewFace(*pMember.entry);
+    const CallOutcome early = CallEarly(*face, WithRightArguments(pMember), pAt);
+    face->Release();
+    return early;
+  });
+  EXPECT_EQ("null pointer", outcome.answer) << pMember.Name() << ", " << pAt;
 }
 
 void Walk(const MemberCall& pMember) {
@@ -64,7 +74,12 @@ void Walk(const MemberCall& pMember) {
     ExpectAgreement([&] { return with({Variant(), true}); }, "omitted", hasDefault);
     ExpectAgreement([&] { return with({WrongValue(parameter.type)}); }, "wrong kind", false);
     ExpectAgreement([&] { return with({Variant(nullptr)}); }, "unset", isObject && !parameter.type.isArray);
+    if (parameter.IsByRef()) ExpectNullRefused(pMember, i);
   }
+  if (pMember.Member().result.base != BaseType::Void) ExpectNullRefused(pMember, parameters.size());
+  if (parameters.empty()) return;
+  for (unsigned seed = 0; seed < 3; ++seed)
+    ExpectAgreement([&] { return WithRandomArguments(pMember, seed); }, "random arguments", false);
 }
 
 TEST(Calls, AgreeHoweverTheyAreMade) {

@@ -45,4 +45,39 @@ void CallByName(Answer& pAnswer, IDispatch* pObject, const wchar_t* pName, WORD 
   CallById(pAnswer, pObject, MemberId(pObject, pName), pFlags, std::move(pArguments));
 }
 
+ScriptFunction Returns(VARIANT pValue) {
+  return
+      [pValue](const DISPPARAMS&, VARIANT* pResult) mutable { return pResult ? VariantCopy(pResult, &pValue) : S_OK; };
+}
+
+HRESULT ScriptObject::QueryInterface(REFIID pId, void** pResult) {
+  const bool isKnown = pId == IID_IUnknown || pId == IID_IDispatch;
+  *pResult = isKnown ? this : nullptr;
+  if (!isKnown) return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+HRESULT ScriptObject::GetIDsOfNames(REFIID, LPOLESTR* pNames, UINT, LCID, DISPID* pIds) {
+  const auto found = std::find_if(members_.begin(), members_.end(),
+                                  [&](const Member& pEach) { return _wcsicmp(pEach.name.c_str(), *pNames) == 0; });
+  *pIds = found == members_.end() ? DISPID_UNKNOWN : static_cast<DISPID>(found - members_.begin() + 1);
+  return found == members_.end() ? DISP_E_UNKNOWNNAME : S_OK;
+}
+
+HRESULT ScriptObject::Invoke(DISPID pMember, REFIID, LCID, WORD, DISPPARAMS* pArguments, VARIANT* pResult,
+                             EXCEPINFO* pException, UINT*) {
+  wchar_t unnamed[] = L"";
+  LPOLESTR name = unnamed;
+  if (pMember == DISPID_VALUE) GetIDsOfNames(IID_NULL, &name, 1, 0, &pMember);
+  if (pMember < 1 || static_cast<std::size_t>(pMember) > members_.size()) return DISP_E_MEMBERNOTFOUND;
+  const HRESULT result = members_[static_cast<std::size_t>(pMember - 1)].function(*pArguments, pResult);
+  if (result == DISP_E_EXCEPTION) {
+    pException->scode = scode;
+    pException->bstrSource = SysAllocString(L"Script");
+    pException->bstrDescription = SysAllocString(L"went wrong");
+  }
+  return result;
+}
+
 }  // namespace qzbase::tests

@@ -1,8 +1,8 @@
 // What the tests of the server use as its clients: the interfaces of the generated header, created through the manifest
-// beside the program, and calls by name.
+// beside the program, calls by name, and objects as script hosts hand them in.
 #pragma once
 
-#include <initializer_list>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -50,6 +50,12 @@ inline std::u16string Taken(BSTR pText) {
   const std::u16string text(automation::com::TextIn(pText));
   SysFreeString(pText);
   return text;
+}
+
+inline std::u16string Shown(const ComRef<_CDblVector>& pVector) {
+  BSTR text = nullptr;
+  EXPECT_EQ(S_OK, pVector->GetString(&text));
+  return Taken(text);
 }
 
 template <class Number>
@@ -113,12 +119,6 @@ inline VARIANT Dispatch(IUnknown* pObject, VARTYPE pType = VT_DISPATCH) {
   result.punkVal = pObject;
   return result;
 }
-inline VARIANT Omitted() {
-  VARIANT result{};
-  result.vt = VT_ERROR;
-  result.scode = DISP_E_PARAMNOTFOUND;
-  return result;
-}
 // As scripts pass their variables.
 inline VARIANT Variable(VARIANT& pVariable) {
   VARIANT result{};
@@ -144,5 +144,42 @@ void CallById(Answer& pAnswer, IDispatch* pObject, DISPID pMember, WORD pFlags, 
               std::vector<DISPID> pNamed = {});
 void CallByName(Answer& pAnswer, IDispatch* pObject, const wchar_t* pName, WORD pFlags,
                 std::vector<VARIANT> pArguments = {});
+
+// ---- Objects of hosts: members by name, made of functions. Ids count from 1; a member without a name is the default.
+
+// Gets the arguments last one first, as they come, and fills in the result.
+using ScriptFunction = std::function<HRESULT(const DISPPARAMS& pArguments, VARIANT* pResult)>;
+
+ScriptFunction Returns(VARIANT pValue);
+
+class ScriptObject : public IDispatch {
+ public:
+  struct Member {
+    std::wstring name;
+    ScriptFunction function;
+  };
+
+  explicit ScriptObject(std::vector<Member> pMembers) : members_(std::move(pMembers)) {}
+  virtual ~ScriptObject() = default;
+
+  ULONG References() const noexcept { return references_; }
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID pId, void** pResult) override;
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references_; }  // the test owns it
+
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* pNames, UINT, LCID, DISPID* pIds) override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID pMember, REFIID, LCID, WORD, DISPPARAMS* pArguments, VARIANT* pResult,
+                                   EXCEPINFO* pException, UINT*) override;
+
+  // What a call that fails with DISP_E_EXCEPTION says.
+  HRESULT scode = S_OK;
+
+ private:
+  std::vector<Member> members_;
+  ULONG references_ = 1;
+};
 
 }  // namespace qzbase::tests

@@ -1,78 +1,12 @@
-// Objects of hosts that the library calls by name.
-#include "ScriptObject.h"
+// Objects of hosts that the library calls by name, and fonts, which it calls by number.
+#include <cmath>
+
+#include <olectl.h>
+
+#include "Client.h"
 
 namespace qzbase::tests {
 namespace {
-
-ScriptFunction Returns(VARIANT pValue) {
-  return [pValue](WORD, const DISPPARAMS&, VARIANT* pResult) mutable {
-    return pResult ? VariantCopy(pResult, &pValue) : S_OK;
-  };
-}
-
-ScriptFunction Fails(HRESULT pResult) {
-  return [pResult](WORD, const DISPPARAMS&, VARIANT*) { return pResult; };
-}
-
-const VARIANT& Given(const DISPPARAMS& pArguments, UINT pAt) {
-  const VARIANT* argument = &pArguments.rgvarg[pArguments.cArgs - 1 - pAt];
-  return argument->vt == (VT_BYREF | VT_VARIANT) ? *argument->pvarVal : *argument;
-}
-
-// A registry of a script: it knows one error and collects what it is given.
-class HostObject : public testing::TestWithParam<bool> {
- protected:
-  std::vector<ScriptObject::Member> Members(const OwnedText& pId, const OwnedText& pModule) {
-    description_ = std::make_unique<ScriptObject>(std::vector<ScriptObject::Member>{{L"Code", Returns(Long(1500))},
-                                                                                    {L"ID", Returns(Text(pId))},
-                                                                                    {L"Module", Returns(Text(pModule))},
-                                                                                    {L"Msg", Returns(Text(pId))},
-                                                                                    {L"AddInfo", Returns(Long(0))}});
-    return {{L"ErrIndex",
-             [](WORD, const DISPPARAMS& pArguments, VARIANT* pResult) {
-               *pResult = Long(std::wstring(Given(pArguments, 1).bstrVal) == L"InvRange" ? 1 : 0);
-               return S_OK;
-             }},
-            {L"RegisterError",
-             [this](WORD, const DISPPARAMS& pArguments, VARIANT*) {
-               registered_.emplace_back(Given(pArguments, 1).bstrVal);
-               EXPECT_EQ(4U, pArguments.cArgs);
-               EXPECT_EQ(VT_BOOL, Given(pArguments, 3).vt);
-               return S_OK;
-             }},
-            {L"NrRegisteredErrors", Returns(Long(1))},
-            {L"EDesc", Returns(Dispatch(description_.get()))}};
-  }
-
-  LONG CodeOf(const ComRef<_GCError>& pErrors, LONG pAt) {
-    TErrDesc record{};
-    EXPECT_EQ(S_OK, pErrors->get_EDesc(pAt, &record));
-    Taken(record.ID);
-    Taken(record.Module);
-    Taken(record.Msg);
-    return record.Code;
-  }
-
-  std::vector<std::wstring> registered_;
-  std::unique_ptr<ScriptObject> description_;
-};
-
-TEST_P(HostObject, IsCalledByNameAndLetGo) {
-  const auto errors = Create<_GCError>(__uuidof(GCError));
-  const OwnedText id = Bstr(u"InvRange");
-  const OwnedText module = Bstr(u"Format");
-  ScriptObject client(Members(id, module), GetParam());
-  IDispatch* passed = &client;
-  ASSERT_EQ(S_OK, errors->SynchErrors(&passed));
-  LONG count = 0;
-  EXPECT_EQ(S_OK, errors->NrRegisteredErrors(&count));
-  EXPECT_EQ(static_cast<std::size_t>(count - 1), registered_.size());
-  EXPECT_EQ(1500, CodeOf(errors, 3));
-  EXPECT_EQ(1U, client.References());
-  EXPECT_EQ(1U, description_->References());
-}
-
-INSTANTIATE_TEST_SUITE_P(WithAndWithoutIDispatchEx, HostObject, testing::Bool());
 
 TEST(HostErrors, BecomeTheNumbersThatTheyStandFor) {
   const auto errors = Create<_GCError>(__uuidof(GCError));
@@ -94,7 +28,7 @@ TEST(HostErrors, BecomeTheNumbersThatTheyStandFor) {
                       {DISP_E_EXCEPTION, DISP_E_OVERFLOW, ErrorResult(6)},
                       {DISP_E_EXCEPTION, HRESULT(0x80040201), HRESULT(0x80040201)}};
   for (const Row& row : rows) {
-    ScriptObject client({{L"ErrIndex", Fails(row.result)}});
+    ScriptObject client({{L"ErrIndex", [&](const DISPPARAMS&, VARIANT*) { return row.result; }}});
     client.scode = row.scode;
     IDispatch* passed = &client;
     EXPECT_EQ(row.expected, errors->SynchErrors(&passed)) << std::hex << row.result;
@@ -113,15 +47,14 @@ TEST(HostErrors, BecomeTheNumbersThatTheyStandFor) {
 // Scripts of some hosts pass arrays as objects with a length, and texts and numbers as objects with a value.
 TEST(HostObjects, ServeAsArraysAndValues) {
   const auto vector = Create<_CDblVector>(__uuidof(CDblVector));
-  ScriptObject array({{L"length", Returns(Long(3))}, {L"0", Returns(Long(4))}, {L"2", Returns(Double(0.5))}});
   ScriptObject number({{L"", Returns(Double(2.5))}});
+  ScriptObject array({{L"length", Returns(Long(3))}, {L"0", Returns(Long(4))}, {L"2", Returns(Double(0.5))}});
   Answer answer;
-  CallByName(answer, vector.Get(), L"AddValue", DISPATCH_METHOD, {Dispatch(&number)});
-  EXPECT_EQ(S_OK, answer.result);
   CallByName(answer, vector.Get(), L"SetFromArray", DISPATCH_METHOD, {Dispatch(&array)});
   EXPECT_EQ(S_OK, answer.result);
-  CallByName(answer, vector.Get(), L"GetString", DISPATCH_METHOD);
-  EXPECT_STREQ(L"(4;0;0.5)", answer.value.value.bstrVal);
+  CallByName(answer, vector.Get(), L"AddValue", DISPATCH_METHOD, {Dispatch(&number)});
+  EXPECT_EQ(S_OK, answer.result);
+  EXPECT_EQ(u"(4;0;0.5;2.5)", Shown(vector));
   EXPECT_EQ(1U, array.References());
   EXPECT_EQ(1U, number.References());
 }
@@ -138,6 +71,66 @@ TEST(HostObjects, ComeBackAsTheyWere) {
   EXPECT_EQ(&object, right.value.punkVal);
   VariantClear(&right.value);
   EXPECT_EQ(1U, object.References());
+}
+
+// What the font says of itself: the system may take another font for one that is not installed.
+void ExpectStyle(IDispatch& pFont, LONG pColor, LONG pStyle, double pNearSize) {
+  const auto base = Create<_GCBase>(__uuidof(GCBase));
+  TFontStyle style{};
+  ASSERT_EQ(S_OK, base->FontStyle(&pFont, pColor, &style));
+  ComRef<IFont> font;
+  EXPECT_EQ(S_OK, pFont.QueryInterface(IID_IFont, font.PutVoid()));
+  BSTR name = nullptr;
+  CY size{};
+  EXPECT_EQ(S_OK, font->get_Name(&name));
+  EXPECT_EQ(S_OK, font->get_Size(&size));
+  EXPECT_EQ(Taken(name), Taken(style.Name));
+  EXPECT_EQ(std::nearbyint(static_cast<double>(size.int64) / 10000), style.Size);
+  EXPECT_NEAR(pNearSize, style.Size, 1);
+  EXPECT_EQ(pStyle, style.Style);
+  EXPECT_EQ(pColor, style.Color);
+}
+
+TEST(Fonts, OfTheSystemAreReadAndSet) {
+  FONTDESC description{};
+  description.cbSizeofstruct = sizeof description;
+  wchar_t arial[] = L"Arial";
+  description.lpstrName = arial;
+  description.cySize.int64 = 97500;  // 9.75 points
+  description.sWeight = FW_BOLD;
+  description.fUnderline = TRUE;
+  ComRef<IDispatch> font;
+  ASSERT_EQ(S_OK, OleCreateFontIndirect(&description, IID_IDispatch, font.PutVoid()));
+  ExpectStyle(*font.Get(), 255, 5, 10);
+  const OwnedText courier = Bstr(u"Courier New");
+  TFontStyle wanted{courier.Get(), 12, 10, 0};
+  IDispatch* passed = font.Get();
+  ASSERT_EQ(S_OK, Create<_GCBase>(__uuidof(GCBase))->SetFontFromFontStyle(&passed, &wanted));
+  ExpectStyle(*font.Get(), 0, 10, 12);
+}
+
+// Numbers say what the members are, whatever the host calls them; the flags are read bold first.
+TEST(Fonts, OfHostsAreCalledByTheNumbersOfTheStandardFont) {
+  const OwnedText name = Bstr(u"Arial");
+  std::string read;
+  const auto returns = [&](const char* pShown, VARIANT pValue) -> ScriptFunction {
+    return [&read, pShown, pValue](const DISPPARAMS&, VARIANT* pResult) mutable {
+      read += pShown;
+      return VariantCopy(pResult, &pValue);
+    };
+  };
+  ScriptObject font({{L"", returns("name ", Text(name))},
+                     {L"Grad", returns("size ", Double(9.5))},
+                     {L"Fett", returns("bold ", Long(0))},
+                     {L"Kursiv", returns("italic ", Long(-1))},
+                     {L"Unterstrichen", returns("underline ", Long(0))},
+                     {L"Durchgestrichen", returns("strike", Long(-1))}});
+  TFontStyle style{};
+  ASSERT_EQ(S_OK, Create<_GCBase>(__uuidof(GCBase))->FontStyle(&font, 255, &style));
+  EXPECT_EQ(u"Arial", Taken(style.Name));
+  EXPECT_EQ(10, style.Size);
+  EXPECT_EQ(10, style.Style);
+  EXPECT_EQ("name size bold italic underline strike", read);
 }
 
 }  // namespace
