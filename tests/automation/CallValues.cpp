@@ -38,21 +38,41 @@ Ref<Object> NewRecord(TypeList<R...>, std::string_view pName) {
   return result;
 }
 
-Variant RightArray(BaseType pBase) {
-  switch (pBase) {
-    case BaseType::Byte:
-      return ArrayOf<std::uint8_t>({0, 200});
-    case BaseType::Long:
-      return ArrayOf<std::int32_t>({3, -1});
-    case BaseType::Double:
-      return ArrayOf<double>({2.5, -1e300});
-    case BaseType::Boolean:
-      return ArrayOf<bool>({true, false});
-    case BaseType::Text:
-      return ArrayOf<std::u16string>({u"a", u""});
-    default:
-      return {};
-  }
+// By base type; what has no plain values is made anew for each call.
+Variant PlainValue(BaseType pBase) {
+  static const Variant kValues[] = {{},
+                                    Variant(true),
+                                    Variant(std::int16_t{7}),
+                                    Variant(std::int16_t{7}),
+                                    Variant(1),
+                                    Variant(1.5F),
+                                    Variant(2.5),
+                                    Variant(Date{40000.25}),
+                                    Variant(u"a;b"),
+                                    Variant(2.5),
+                                    {},
+                                    {},
+                                    {},
+                                    Variant(1)};
+  return kValues[static_cast<std::size_t>(pBase)];
+}
+
+Variant PlainArray(BaseType pBase) {
+  static const Variant kArrays[] = {{},
+                                    ArrayOf<bool>({true, false}),
+                                    ArrayOf<std::uint8_t>({0, 200}),
+                                    {},
+                                    ArrayOf<std::int32_t>({3, -1}),
+                                    {},
+                                    ArrayOf<double>({2.5, -1e300}),
+                                    {},
+                                    ArrayOf<std::u16string>({u"a", u""}),
+                                    {},
+                                    {},
+                                    {},
+                                    {},
+                                    {}};
+  return kArrays[static_cast<std::size_t>(pBase)];
 }
 
 std::string ShowObject(Object* pObject);
@@ -80,30 +100,18 @@ std::string ShowObject(Object* pObject) {
 }
 
 Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
-  switch (pRandom() % 14) {
-    case 0:
-      return {};
-    case 1:
-      return Variant(Null());
-    case 2:
-      return Variant(nullptr);
-    case 3:
-      return Variant(std::int16_t{-3});
-    case 4:
-      return Variant(static_cast<std::int32_t>(pRandom() % 7) - 2);
-    case 5:
-      return Variant(1e300);
-    case 6:
-      return Variant(u"a;bb;ccc;a longer text than short texts are");
-    case 7:
-      return RightValue({BaseType::Class, false, 0, "CStrVector"});
-    case 8:
-      return RightArray(BaseType::Text);
-    case 9:
-      return WrongValue(pType);
-    default:
-      return RightValue(pType);
-  }
+  const Variant values[] = {{},
+                            Variant(Null()),
+                            Variant(nullptr),
+                            Variant(std::int16_t{-3}),
+                            Variant(static_cast<std::int32_t>(pRandom() % 7) - 2),
+                            Variant(1e300),
+                            Variant(u"a;bb;ccc;a longer text than short texts are"),
+                            RightValue({BaseType::Class, false, 0, "CStrVector"}),
+                            PlainArray(BaseType::Text),
+                            WrongValue(pType)};
+  const std::size_t at = pRandom() % 14;
+  return at < std::size(values) ? values[at] : RightValue(pType);
 }
 
 }  // namespace
@@ -133,32 +141,10 @@ MemberCall WithRightArguments(MemberCall pCall) {
 }
 
 Variant RightValue(const TypeDesc& pType) {
-  if (pType.isArray) return RightArray(pType.base);
-  switch (pType.base) {
-    case BaseType::Boolean:
-      return Variant(true);
-    case BaseType::Byte:
-    case BaseType::Integer:
-      return Variant(std::int16_t{7});
-    case BaseType::Long:
-    case BaseType::Enumeration:
-      return Variant(1);
-    case BaseType::Single:
-      return Variant(1.5F);
-    case BaseType::Double:
-    case BaseType::Variant:
-      return Variant(2.5);
-    case BaseType::Date:
-      return Variant(Date{40000.25});
-    case BaseType::Text:
-      return Variant(u"a;b");
-    case BaseType::Class:
-      return Variant(FindClass(os::FromUtf8(std::string(pType.name)))->create());
-    case BaseType::Record:
-      return Variant(NewRecord(AllRecords(), pType.name));
-    default:
-      return Variant(FindClass(u"CDblVector")->create());
-  }
+  if (pType.isArray) return PlainArray(pType.base);
+  if (pType.base == BaseType::Record) return Variant(NewRecord(AllRecords(), pType.name));
+  if (pType.base == BaseType::Class) return Variant(FindClass(os::FromUtf8(pType.name))->create());
+  return pType.base == BaseType::Object ? Variant(FindClass(u"CDblVector")->create()) : PlainValue(pType.base);
 }
 
 Variant WrongValue(const TypeDesc& pType) {

@@ -26,19 +26,14 @@ std::string ErrorText(HRESULT pResult, HRESULT pCode) {
 class SlotPassed {
  public:
   SlotPassed(const CallArgument& pGiven, const ParameterDesc& pParameter) : type_(TypeOf(pParameter.type)) {
-    if (type_ == VT_VARIANT) {
-      if (pGiven.isOmitted) {
-        native_.value.vt = VT_ERROR;
-        native_.value.scode = DISP_E_PARAMNOTFOUND;
-      } else {
-        native_.value = ToVariant(pGiven.value);
-      }
-    } else {
-      OwnedVariant whole;
-      whole.value = ToVariant(pGiven.isOmitted ? DefaultOf(pParameter) : pGiven.value);
-      native_.value = (type_ & VT_ARRAY) != 0 || type_ == VT_RECORD
-                          ? whole.Release()
-                          : ToVariantOf(FromVariant(whole.value, Digits::All), type_);
+    native_.value = ToVariant(pGiven.isOmitted ? DefaultOf(pParameter) : pGiven.value);
+    if (type_ == VT_VARIANT && pGiven.isOmitted) {
+      native_.value.vt = VT_ERROR;
+      native_.value.scode = DISP_E_PARAMNOTFOUND;
+    } else if (type_ != VT_VARIANT && (type_ & VT_ARRAY) == 0 && type_ != VT_RECORD) {
+      OwnedVariant given;
+      given.value = native_.Release();
+      native_.value = ToVariantOf(FromVariant(given.value, Digits::All), type_);
     }
     const bool byPointer = pParameter.IsByRef() || type_ == VT_RECORD;
     passed_ = native_.value;

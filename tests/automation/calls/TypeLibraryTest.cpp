@@ -26,6 +26,10 @@ std::string Taken(BSTR pText) {
 class Described {
  public:
   explicit Described(ComRef<ITypeInfo> pInfo) : info_(std::move(pInfo)) { info_->GetTypeAttr(&attributes_); }
+  // Found by its identifier.
+  explicit Described(const Identity& pIdentity) : Described(TypeInfoOf(ParseGuid(pIdentity.guid))) {
+    EXPECT_EQ(std::pair(std::string(pIdentity.name), std::string(pIdentity.help)), Texts());
+  }
   ~Described() { info_->ReleaseTypeAttr(attributes_); }
   Described(const Described&) = delete;
   Described& operator=(const Described&) = delete;
@@ -33,25 +37,22 @@ class Described {
   ITypeInfo* operator->() const { return info_.Get(); }
   const TYPEATTR& Attributes() const { return *attributes_; }
 
-  ComRef<ITypeInfo> Referred(HREFTYPE pType) const {
+  Described Referred(HREFTYPE pType) const {
     ComRef<ITypeInfo> result;
     EXPECT_EQ(S_OK, info_->GetRefTypeInfo(pType, result.Put()));
-    return result;
+    return Described(std::move(result));
   }
-  ComRef<ITypeInfo> Implemented(UINT pAt) const {
+  Described Implemented(UINT pAt) const {
     HREFTYPE type = 0;
     EXPECT_EQ(S_OK, info_->GetRefTypeOfImplType(pAt, &type));
     return Referred(type);
   }
-  std::string Name(MEMBERID pMember = MEMBERID_NIL) const {
+  // Name and help.
+  std::pair<std::string, std::string> Texts(MEMBERID pMember = MEMBERID_NIL) const {
     BSTR name = nullptr;
-    info_->GetDocumentation(pMember, &name, nullptr, nullptr, nullptr);
-    return Taken(name);
-  }
-  std::string Help(MEMBERID pMember = MEMBERID_NIL) const {
     BSTR help = nullptr;
-    info_->GetDocumentation(pMember, nullptr, &help, nullptr, nullptr);
-    return Taken(help);
+    info_->GetDocumentation(pMember, &name, &help, nullptr, nullptr);
+    return {Taken(name), Taken(help)};
   }
 
   std::string TypeName(const TYPEDESC& pType) const {
@@ -59,7 +60,7 @@ class Described {
     if (pType.vt == VT_SAFEARRAY) return TypeName(*pType.lptdesc) + "()";
     if (pType.vt == VT_CARRAY)
       return TypeName(pType.lpadesc->tdescElem) + "(" + std::to_string(pType.lpadesc->rgbounds[0].cElements) + ")";
-    return pType.vt == VT_USERDEFINED ? Described(Referred(pType.hreftype)).Name() : std::to_string(pType.vt);
+    return pType.vt == VT_USERDEFINED ? Referred(pType.hreftype).Texts().first : std::to_string(pType.vt);
   }
 
  private:
@@ -98,46 +99,33 @@ void CheckMember(const Described& pFace, const FUNCDESC& pActual, const MemberTa
   EXPECT_EQ(kKinds[static_cast<std::size_t>(wanted.kind)], pActual.invkind);
   EXPECT_EQ((7 + pRow) * sizeof(void*), static_cast<std::size_t>(pActual.oVft));
   EXPECT_EQ(wanted.isHidden, (pActual.wFuncFlags & FUNCFLAG_FHIDDEN) != 0);
-  EXPECT_EQ(wanted.help, pFace.Help(pActual.memid));
+  EXPECT_EQ(std::pair(std::string(wanted.name), std::string(wanted.help)), pFace.Texts(pActual.memid));
   const bool hasResult = wanted.result.base != BaseType::Void;
   ASSERT_EQ(parameters.size() + (hasResult ? 1 : 0), static_cast<std::size_t>(pActual.cParams));
   BSTR names[kMaxParameters + 2] = {};
   UINT count = 0;
   EXPECT_EQ(S_OK, pFace->GetNames(pActual.memid, names, kMaxParameters + 2, &count));
-  EXPECT_EQ(wanted.name, Taken(names[0]));
-  for (std::size_t i = 0; i < kMaxParameters + 1; ++i) {
-    const std::string name = Taken(names[i + 1]);
-    const bool isNewValue = wanted.IsPut() && i + 1 == parameters.size();  // has none
-    if (i < parameters.size() && !isNewValue) {
-      EXPECT_EQ(parameters[i].name, name);
-    }
-  }
-  for (std::size_t i = 0; i < parameters.size(); ++i)
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const bool isNewValue = wanted.IsPut() && i + 1 == parameters.size();  // has no name of its own
+    const std::string name = Taken(std::exchange(names[i + 1], nullptr));
+    EXPECT_EQ(isNewValue ? name : parameters[i].name, name);
     CheckParameter(pFace, pActual.lprgelemdescParam[i], parameters[i]);
+  }
+  for (const BSTR name : names) SysFreeString(name);
   if (!hasResult) return;
   const ELEMDESC& result = pActual.lprgelemdescParam[parameters.size()];
   EXPECT_EQ(PARAMFLAG_FOUT | PARAMFLAG_FRETVAL, result.paramdesc.wParamFlags);
   EXPECT_EQ(TypeName(wanted.result, true), pFace.TypeName(result.tdesc));
 }
 
-Described Find(const Identity& pIdentity) {
-  return Described(TypeInfoOf(ParseGuid(pIdentity.guid)));
-}
-
-void CheckIdentity(const Described& pActual, const Identity& pWanted) {
-  EXPECT_EQ(pWanted.name, pActual.Name());
-  EXPECT_EQ(pWanted.help, pActual.Help());
-}
-
 void CheckClass(const ClassDesc& pWanted) {
-  const Described actual = Find(*pWanted.identity);
-  CheckIdentity(actual, *pWanted.identity);
+  const Described actual(*pWanted.identity);
   const bool isGlobal = pWanted.identity->kind == IdentityKind::GlobalClass;
   EXPECT_EQ(TYPEFLAG_FCANCREATE | (isGlobal ? TYPEFLAG_FAPPOBJECT : 0), actual.Attributes().wTypeFlags);
-  const Described face(actual.Implemented(0));
-  EXPECT_EQ("_" + std::string(pWanted.identity->name), face.Name());
+  const Described face = actual.Implemented(0);
+  EXPECT_EQ("_" + std::string(pWanted.identity->name), face.Texts().first);
   EXPECT_TRUE(ParseGuid(pWanted.identity->interfaceGuid) == face.Attributes().guid);
-  const Described slots(face.Implemented(static_cast<UINT>(-1)));  // the dual interface's other side
+  const Described slots = face.Implemented(static_cast<UINT>(-1));  // the dual interface's other side
   ASSERT_EQ(pWanted.members->rows.size(), slots.Attributes().cFuncs);
   for (std::size_t i = 0; i < pWanted.members->rows.size(); ++i) {
     SCOPED_TRACE(std::string(pWanted.members->rows[i].name));
@@ -151,13 +139,12 @@ void CheckClass(const ClassDesc& pWanted) {
 // The fields of a record or the items of an enumeration.
 template <class Row, class Check>
 void CheckRows(const Identity& pIdentity, std::span<const Row> pRows, Check pCheck) {
-  const Described actual = Find(pIdentity);
-  CheckIdentity(actual, pIdentity);
+  const Described actual(pIdentity);
   ASSERT_EQ(pRows.size(), actual.Attributes().cVars);
   for (std::size_t i = 0; i < pRows.size(); ++i) {
     VARDESC* field = nullptr;
     ASSERT_EQ(S_OK, actual->GetVarDesc(static_cast<UINT>(i), &field));
-    EXPECT_EQ(pRows[i].name, actual.Name(field->memid));
+    EXPECT_EQ(pRows[i].name, actual.Texts(field->memid).first);
     pCheck(actual, *field, pRows[i]);
     actual->ReleaseVarDesc(field);
   }

@@ -24,42 +24,38 @@ CallOutcome Alone(Body pBody) {
   return outcome;
 }
 
+template <class Make, class HostCall>
+CallOutcome ByHost(Make pMake, HostCall pHostCall) {
+  return Alone([&] {
+    const MemberCall call = pMake();
+    com::OuterFace* face = NewFace(*call.entry);
+    const CallOutcome outcome = pHostCall(*face, call);
+    face->Release();
+    return outcome;
+  });
+}
+
 template <class Make>
 void ExpectAgreement(Make pMake, const char* pWhat, bool pCanBeEarly) {
-  std::string name;
   const CallOutcome native = Alone([&] {
     const MemberCall call = pMake();
-    name = call.Name();
     return CallNatively(*call.entry->create(), call);
   });
-  const auto byHost = [&](auto pCallIt) {
-    return Alone([&] {
-      const MemberCall call = pMake();
-      com::OuterFace* face = NewFace(*call.entry);
-      const CallOutcome outcome = pCallIt(*face, call);
-      face->Release();
-      return outcome;
-    });
-  };
   const auto expect = [&](const CallOutcome& pOther, const char* pBinding) {
-    EXPECT_EQ(native.answer, pOther.answer) << name << ", " << pWhat << ", " << pBinding;
-    EXPECT_EQ(native.arguments, pOther.arguments) << name << ", " << pWhat << ", " << pBinding;
+    EXPECT_EQ(native.answer, pOther.answer) << pWhat << ", " << pBinding;
+    EXPECT_EQ(native.arguments, pOther.arguments) << pWhat << ", " << pBinding;
   };
-  expect(byHost(CallLate), "late");
-  if (pCanBeEarly) expect(byHost([](auto& pFace, auto& pCall) { return CallEarly(pFace, pCall); }), "early");
+  expect(ByHost(pMake, CallLate), "late");
+  if (pCanBeEarly) expect(ByHost(pMake, [](auto& pFace, auto& pCall) { return CallEarly(pFace, pCall); }), "early");
 }
 
 void ExpectNullRefused(const MemberCall& pMember, std::size_t pAt) {
-  const CallOutcome outcome = Alone([&] {
-    com::OuterFace* face = NewFace(*pMember.entry);
-    const CallOutcome early = CallEarly(*face, WithRightArguments(pMember), pAt);
-    face->Release();
-    return early;
-  });
-  EXPECT_EQ("null pointer", outcome.answer) << pMember.Name() << ", " << pAt;
+  const auto call = [pAt](auto& pFace, auto& pCall) { return CallEarly(pFace, pCall, pAt); };
+  EXPECT_EQ("null pointer", ByHost([&] { return WithRightArguments(pMember); }, call).answer) << pAt;
 }
 
 void Walk(const MemberCall& pMember) {
+  SCOPED_TRACE(pMember.Name());
   ExpectAgreement([&] { return WithRightArguments(pMember); }, "right arguments", true);
   const auto parameters = pMember.entry->members->Parameters(pMember.Member());
   for (std::size_t i = 0; i < parameters.size(); ++i) {

@@ -83,7 +83,7 @@ HRESULT ScriptObject::QueryInterface(REFIID pId, void** pResult) {
 
 HRESULT ScriptObject::GetIDsOfNames(REFIID, LPOLESTR* pNames, UINT, LCID, DISPID* pIds) {
   const auto found = std::find_if(members_.begin(), members_.end(),
-                                  [&](const Member& pEach) { return _wcsicmp(pEach.name.c_str(), *pNames) == 0; });
+                                  [&](const Member& pEach) { return _wcsicmp(pEach.first.c_str(), *pNames) == 0; });
   *pIds = found == members_.end() ? DISPID_UNKNOWN : static_cast<DISPID>(found - members_.begin() + 1);
   return found == members_.end() ? DISP_E_UNKNOWNNAME : S_OK;
 }
@@ -92,7 +92,7 @@ HRESULT ScriptObject::Invoke(DISPID pMember, REFIID, LCID, WORD, DISPPARAMS* pAr
                              EXCEPINFO* pException, UINT*) {
   if (pMember == DISPID_VALUE) pMember = MemberId(this, L"");
   if (pMember < 1 || static_cast<std::size_t>(pMember) > members_.size()) return DISP_E_MEMBERNOTFOUND;
-  const HRESULT result = members_[static_cast<std::size_t>(pMember - 1)].function(*pArguments, pResult);
+  const HRESULT result = members_[static_cast<std::size_t>(pMember - 1)].second(*pArguments, pResult);
   if (result == DISP_E_EXCEPTION) {
     pException->scode = scode;
     pException->bstrSource = SysAllocString(L"Script");

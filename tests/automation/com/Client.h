@@ -112,10 +112,7 @@ ScriptFunction Returns(VARIANT pValue);
 
 class ScriptObject : public IDispatch {
  public:
-  struct Member {
-    std::wstring name;
-    ScriptFunction function;
-  };
+  using Member = std::pair<std::wstring, ScriptFunction>;
 
   explicit ScriptObject(std::vector<Member> pMembers) : members_(std::move(pMembers)) {}
   virtual ~ScriptObject() = default;
