@@ -5,8 +5,8 @@ namespace qzbase::tests {
 namespace {
 
 constexpr const wchar_t* kPlayground = L"Software\\QZBaseRegistrationTest";
-constexpr const wchar_t* kId = L"{6565B8DF-CA64-49A4-82C1-091CD789EC5B}";
-constexpr const wchar_t* kLibraryId = L"{6EFF960B-E38B-43CB-BC3D-1B9EC8E43D36}";
+constexpr const wchar_t* kClassKey = L"CLSID\\{6565B8DF-CA64-49A4-82C1-091CD789EC5B}";
+constexpr const wchar_t* kLibraryKey = L"TypeLib\\{6EFF960B-E38B-43CB-BC3D-1B9EC8E43D36}\\1.0";
 
 // The real keys that the test's own ones stand for.
 const struct {
@@ -52,21 +52,17 @@ class Registration : public testing::Test {
     const LSTATUS status = RegGetValueW(pRoot, key.c_str(), pName, RRF_RT_REG_SZ, nullptr, text, &size);
     return status == ERROR_SUCCESS ? text : L"(none)";
   }
-  static bool HasClass(HKEY pRoot) {
-    return Value(pRoot, std::wstring(L"CLSID\\") + kId) != L"(none)" || Value(pRoot, L"QZBase.CBuffer") != L"(none)";
-  }
-  static bool HasLibrary(HKEY pRoot) {
-    return Value(pRoot, std::wstring(L"TypeLib\\") + kLibraryId + L"\\1.0") != L"(none)";
-  }
+  static bool Has(HKEY pRoot, const std::wstring& pKey) { return Value(pRoot, pKey) != L"(none)"; }
+  static bool HasClass(HKEY pRoot) { return Has(pRoot, kClassKey) || Has(pRoot, L"QZBase.CBuffer"); }
 
   static void ExpectRegistered(HKEY pRoot) {
-    const std::wstring key = std::wstring(L"CLSID\\") + kId;
-    EXPECT_EQ(kId, Value(pRoot, L"QZBase.CBuffer\\CLSID"));
+    const std::wstring key = kClassKey;
+    EXPECT_EQ(key, L"CLSID\\" + Value(pRoot, L"QZBase.CBuffer\\CLSID"));
     EXPECT_NE(std::wstring::npos, Value(pRoot, key + L"\\InprocServer32").find(L"\\QZBase.dll"));
     EXPECT_EQ(L"Apartment", Value(pRoot, key + L"\\InprocServer32", L"ThreadingModel"));
     EXPECT_EQ(L"QZBase.CBuffer", Value(pRoot, key + L"\\ProgID"));
     EXPECT_EQ(L"QZBase.CBuffer", Value(pRoot, key + L"\\VersionIndependentProgID"));
-    EXPECT_EQ(kLibraryId, Value(pRoot, key + L"\\TypeLib"));
+    EXPECT_EQ(kLibraryKey, L"TypeLib\\" + Value(pRoot, key + L"\\TypeLib") + L"\\1.0");
     EXPECT_EQ(L"", Value(pRoot, key + L"\\Programmable"));
   }
 
@@ -77,13 +73,13 @@ TEST_F(Registration, ForTheMachineComesAndGoes) {
   for (int i = 0; i < 2; ++i) {  // a second time changes nothing
     ASSERT_EQ(S_OK, Call("DllRegisterServer"));
     ExpectRegistered(HKEY_LOCAL_MACHINE);
-    EXPECT_TRUE(HasLibrary(HKEY_LOCAL_MACHINE));
+    EXPECT_TRUE(Has(HKEY_LOCAL_MACHINE, kLibraryKey));
   }
   EXPECT_FALSE(HasClass(HKEY_CURRENT_USER));
   for (int i = 0; i < 2; ++i) {
     EXPECT_EQ(S_OK, Call("DllUnregisterServer"));
     EXPECT_FALSE(HasClass(HKEY_LOCAL_MACHINE));
-    EXPECT_FALSE(HasLibrary(HKEY_LOCAL_MACHINE));
+    EXPECT_FALSE(Has(HKEY_LOCAL_MACHINE, kLibraryKey));
   }
 }
 
