@@ -38,41 +38,22 @@ Ref<Object> NewRecord(TypeList<R...>, std::string_view pName) {
   return result;
 }
 
+template <class... V>
+Variant OneOf(std::size_t pAt, V... pValues) {
+  const Variant values[] = {Variant(std::move(pValues))...};
+  return pAt < std::size(values) ? values[pAt] : Variant();
+}
+
 // By base type; what has no plain values is made anew for each call.
 Variant PlainValue(BaseType pBase) {
-  static const Variant kValues[] = {{},
-                                    Variant(true),
-                                    Variant(std::int16_t{7}),
-                                    Variant(std::int16_t{7}),
-                                    Variant(1),
-                                    Variant(1.5F),
-                                    Variant(2.5),
-                                    Variant(Date{40000.25}),
-                                    Variant(u"a;b"),
-                                    Variant(2.5),
-                                    {},
-                                    {},
-                                    {},
-                                    Variant(1)};
-  return kValues[static_cast<std::size_t>(pBase)];
+  return OneOf(static_cast<std::size_t>(pBase), Variant(), true, std::int16_t{7}, std::int16_t{7}, 1, 1.5F, 2.5,
+               Date{40000.25}, u"a;b", 2.5, Variant(), Variant(), Variant(), 1);
 }
 
 Variant PlainArray(BaseType pBase) {
-  static const Variant kArrays[] = {{},
-                                    ArrayOf<bool>({true, false}),
-                                    ArrayOf<std::uint8_t>({0, 200}),
-                                    {},
-                                    ArrayOf<std::int32_t>({3, -1}),
-                                    {},
-                                    ArrayOf<double>({2.5, -1e300}),
-                                    {},
-                                    ArrayOf<std::u16string>({u"a", u""}),
-                                    {},
-                                    {},
-                                    {},
-                                    {},
-                                    {}};
-  return kArrays[static_cast<std::size_t>(pBase)];
+  return OneOf(static_cast<std::size_t>(pBase), Variant(), ArrayOf<bool>({true, false}),
+               ArrayOf<std::uint8_t>({0, 200}), Variant(), ArrayOf<std::int32_t>({3, -1}), Variant(),
+               ArrayOf<double>({2.5, -1e300}), Variant(), ArrayOf<std::u16string>({u"a", u""}));
 }
 
 std::string ShowObject(Object* pObject);
@@ -100,18 +81,11 @@ std::string ShowObject(Object* pObject) {
 }
 
 Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
-  const Variant values[] = {{},
-                            Variant(Null()),
-                            Variant(nullptr),
-                            Variant(std::int16_t{-3}),
-                            Variant(static_cast<std::int32_t>(pRandom() % 7) - 2),
-                            Variant(1e300),
-                            Variant(u"a;bb;ccc;a longer text than short texts are"),
-                            RightValue({BaseType::Class, false, 0, "CStrVector"}),
-                            PlainArray(BaseType::Text),
-                            WrongValue(pType)};
   const std::size_t at = pRandom() % 14;
-  return at < std::size(values) ? values[at] : RightValue(pType);
+  if (at >= 10) return RightValue(pType);
+  return OneOf(at, Variant(), Null(), nullptr, std::int16_t{-3}, static_cast<std::int32_t>(pRandom() % 7) - 2, 1e300,
+               u"a;bb;ccc;a longer text than short texts are", RightValue({BaseType::Class, false, 0, "CStrVector"}),
+               PlainArray(BaseType::Text), WrongValue(pType));
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ bool IsOmitted(const Variant& pValue) {
 }
 
 Ref<Object> Fresh(std::u16string_view pClass) {
-  const Ref<Object> object = CreateObject(u"QZBase." + std::u16string(pClass));
+  Ref<Object> object = CreateObject(u"QZBase." + std::u16string(pClass));
   if (pClass == u"CDblVector") object->Call(u"SetFromString", u"(3;1;2)");
   return object;
 }

@@ -2,6 +2,7 @@
 // beside the program, calls by name, and objects as script hosts hand them in.
 #pragma once
 
+#include <cstring>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -60,7 +61,7 @@ VARIANT Value(VARTYPE pType, Native pNative) {
   VARIANT result{};
   result.vt = pType;
   static_assert(sizeof pNative <= sizeof result.llVal);
-  memcpy(&result.llVal, &pNative, sizeof pNative);
+  std::memcpy(&result.llVal, &pNative, sizeof pNative);
   return result;
 }
 inline VARIANT Long(LONG pValue) {
