@@ -1,6 +1,6 @@
 #include "tests/automation/CallValues.h"
 
-#include <algorithm>
+#include <random>
 #include <set>
 
 #include "qzbase/automation/RecordObject.h"
@@ -38,21 +38,22 @@ Ref<Object> NewRecord(TypeList<R...>, std::string_view pName) {
   return result;
 }
 
-Variant RightArray(BaseType pBase) {
-  switch (pBase) {
-    case BaseType::Byte:
-      return ArrayOf<std::uint8_t>({0, 200});
-    case BaseType::Long:
-      return ArrayOf<std::int32_t>({3, -1});
-    case BaseType::Double:
-      return ArrayOf<double>({2.5, -1e300});
-    case BaseType::Boolean:
-      return ArrayOf<bool>({true, false});
-    case BaseType::Text:
-      return ArrayOf<std::u16string>({u"a", u""});
-    default:
-      return {};
-  }
+template <class... V>
+Variant OneOf(std::size_t pAt, V... pValues) {
+  const Variant values[] = {Variant(std::move(pValues))...};
+  return pAt < std::size(values) ? values[pAt] : Variant();
+}
+
+// By base type; what has no plain values is made anew for each call.
+Variant PlainValue(BaseType pBase) {
+  return OneOf(static_cast<std::size_t>(pBase), Variant(), true, std::int16_t{7}, std::int16_t{7}, 1, 1.5F, 2.5,
+               Date{40000.25}, u"a;b", 2.5, Variant(), Variant(), Variant(), 1);
+}
+
+Variant PlainArray(BaseType pBase) {
+  return OneOf(static_cast<std::size_t>(pBase), Variant(), ArrayOf<bool>({true, false}),
+               ArrayOf<std::uint8_t>({0, 200}), Variant(), ArrayOf<std::int32_t>({3, -1}), Variant(),
+               ArrayOf<double>({2.5, -1e300}), Variant(), ArrayOf<std::u16string>({u"a", u""}));
 }
 
 std::string ShowObject(Object* pObject);
@@ -77,6 +78,14 @@ std::string ShowObject(Object* pObject) {
   const bool hasText = entry->members->Find(u"GetString") != kNoMember;
   return std::string(entry->identity->name) +
          (hasText ? " " + TextOrError([&] { return Show(pObject->Call(u"GetString")); }) : "");
+}
+
+Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
+  const std::size_t at = pRandom() % 14;
+  if (at >= 10) return RightValue(pType);
+  return OneOf(at, Variant(), Null(), nullptr, std::int16_t{-3}, static_cast<std::int32_t>(pRandom() % 7) - 2, 1e300,
+               u"a;bb;ccc;a longer text than short texts are", RightValue({BaseType::Class, false, 0, "CStrVector"}),
+               PlainArray(BaseType::Text), WrongValue(pType));
 }
 
 }  // namespace
@@ -106,32 +115,10 @@ MemberCall WithRightArguments(MemberCall pCall) {
 }
 
 Variant RightValue(const TypeDesc& pType) {
-  if (pType.isArray) return RightArray(pType.base);
-  switch (pType.base) {
-    case BaseType::Boolean:
-      return Variant(true);
-    case BaseType::Byte:
-    case BaseType::Integer:
-      return Variant(std::int16_t{7});
-    case BaseType::Long:
-    case BaseType::Enumeration:
-      return Variant(1);
-    case BaseType::Single:
-      return Variant(1.5F);
-    case BaseType::Double:
-    case BaseType::Variant:
-      return Variant(2.5);
-    case BaseType::Date:
-      return Variant(Date{40000.25});
-    case BaseType::Text:
-      return Variant(u"a;b");
-    case BaseType::Class:
-      return Variant(FindClass(os::FromUtf8(std::string(pType.name)))->create());
-    case BaseType::Record:
-      return Variant(NewRecord(AllRecords(), pType.name));
-    default:
-      return Variant(FindClass(u"CDblVector")->create());
-  }
+  if (pType.isArray) return PlainArray(pType.base);
+  if (pType.base == BaseType::Record) return Variant(NewRecord(AllRecords(), pType.name));
+  if (pType.base == BaseType::Class) return Variant(FindClass(os::FromUtf8(pType.name))->create());
+  return pType.base == BaseType::Object ? Variant(FindClass(u"CDblVector")->create()) : PlainValue(pType.base);
 }
 
 Variant WrongValue(const TypeDesc& pType) {
@@ -141,31 +128,12 @@ Variant WrongValue(const TypeDesc& pType) {
   return pType.base == BaseType::Text ? Variant(Null()) : Variant(u"x y");
 }
 
-Variant RandomValue(std::mt19937& pRandom, const TypeDesc& pType) {
-  switch (pRandom() % 14) {
-    case 0:
-      return {};
-    case 1:
-      return Variant(Null());
-    case 2:
-      return Variant(nullptr);
-    case 3:
-      return Variant(std::int16_t{-3});
-    case 4:
-      return Variant(static_cast<std::int32_t>(pRandom() % 7) - 2);
-    case 5:
-      return Variant(1e300);
-    case 6:
-      return Variant(u"a;bb;ccc;a longer text than short texts are");
-    case 7:
-      return RightValue({BaseType::Class, false, 0, "CStrVector"});
-    case 8:
-      return RightArray(BaseType::Text);
-    case 9:
-      return WrongValue(pType);
-    default:
-      return RightValue(pType);
-  }
+MemberCall WithRandomArguments(MemberCall pCall, unsigned pSeed) {
+  std::mt19937 random(pSeed);
+  pCall.arguments.clear();
+  for (const ParameterDesc& parameter : pCall.entry->members->Parameters(pCall.Member()))
+    pCall.arguments.push_back({RandomValue(random, parameter.type)});
+  return pCall;
 }
 
 std::string Show(const Variant& pValue) {

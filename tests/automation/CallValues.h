@@ -2,7 +2,6 @@
 // that wait, show boxes or change the file system.
 #pragma once
 
-#include <random>
 #include <string>
 #include <vector>
 
@@ -43,9 +42,9 @@ std::vector<MemberCall> AllMembers();
 MemberCall WithRightArguments(MemberCall pCall);
 runtime::Variant RightValue(const automation::TypeDesc& pType);
 
-// Of another kind than a parameter takes; and of any kind at all.
+// Of another kind than a parameter takes; and all of any kind at all.
 runtime::Variant WrongValue(const automation::TypeDesc& pType);
-runtime::Variant RandomValue(std::mt19937& pRandom, const automation::TypeDesc& pType);
+MemberCall WithRandomArguments(MemberCall pCall, unsigned pSeed);
 
 // The same for the same value, whatever object it is in.
 std::string Show(const runtime::Variant& pValue);

@@ -22,30 +22,18 @@ std::string ErrorText(HRESULT pResult, HRESULT pCode) {
   return "error " + std::to_string(NumberOfResult(pResult == DISP_E_EXCEPTION ? pCode : pResult));
 }
 
-VARTYPE TypeOf(const TypeDesc& pType) {
-  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
-                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
-  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
-  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
-}
-
 // What a slot takes: memory for the native, and the value or pointer that is passed.
 class SlotPassed {
  public:
   SlotPassed(const CallArgument& pGiven, const ParameterDesc& pParameter) : type_(TypeOf(pParameter.type)) {
-    if (type_ == VT_VARIANT) {
-      if (pGiven.isOmitted) {
-        native_.value.vt = VT_ERROR;
-        native_.value.scode = DISP_E_PARAMNOTFOUND;
-      } else {
-        native_.value = ToVariant(pGiven.value);
-      }
-    } else {
-      OwnedVariant whole;
-      whole.value = ToVariant(pGiven.isOmitted ? DefaultOf(pParameter) : pGiven.value);
-      native_.value = (type_ & VT_ARRAY) != 0 || type_ == VT_RECORD
-                          ? whole.Release()
-                          : ToVariantOf(FromVariant(whole.value, Digits::All), type_);
+    native_.value = ToVariant(pGiven.isOmitted ? DefaultOf(pParameter) : pGiven.value);
+    if (type_ == VT_VARIANT && pGiven.isOmitted) {
+      native_.value.vt = VT_ERROR;
+      native_.value.scode = DISP_E_PARAMNOTFOUND;
+    } else if (type_ != VT_VARIANT && (type_ & VT_ARRAY) == 0 && type_ != VT_RECORD) {
+      OwnedVariant given;
+      given.value = native_.Release();
+      native_.value = ToVariantOf(FromVariant(given.value, Digits::All), type_);
     }
     const bool byPointer = pParameter.IsByRef() || type_ == VT_RECORD;
     passed_ = native_.value;
@@ -90,6 +78,13 @@ std::string ShowResult(const TypeDesc& pType, std::byte* pNative) {
 
 }  // namespace
 
+VARTYPE TypeOf(const TypeDesc& pType) {
+  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
+                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
+  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
+  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
+}
+
 OuterFace* NewFace(const ClassEntry& pEntry) {
   return static_cast<OuterFace*>(reinterpret_cast<DualInterface*>(ToDispatch(pEntry.create())));
 }
@@ -128,7 +123,7 @@ CallOutcome CallLate(OuterFace& pFace, const MemberCall& pCall) {
   return outcome;
 }
 
-CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall) {
+CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall, std::size_t pNullAt) {
   const MemberDesc& member = pCall.Member();
   std::deque<SlotPassed> slots;
   std::vector<VARTYPE> types;
@@ -146,6 +141,7 @@ CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall) {
     types.push_back(VT_I8);
     passed.push_back(&pointer);
   }
+  if (pNullAt < passed.size()) passed[pNullAt]->llVal = 0;
   SetErrorInfo(0, nullptr);
   VARIANT answer{};
   DispCallFunc(pFace.AsDispatch(), (7 + pCall.row) * sizeof(void*), CC_STDCALL, VT_I4, static_cast<UINT>(types.size()),
@@ -155,20 +151,6 @@ CallOutcome CallEarly(OuterFace& pFace, const MemberCall& pCall) {
   for (std::size_t i = 0; i < pCall.arguments.size(); ++i)
     outcome.arguments.push_back(pCall.arguments[i].isOmitted ? Show(pCall.arguments[i].value) : slots[i].Shown());
   return outcome;
-}
-
-std::int32_t InvokeWith(OuterFace& pFace, const MemberCall& pCall, std::vector<VARIANT>& pArguments) {
-  DISPID put = DISPID_PROPERTYPUT;
-  const bool isPut = pCall.Member().IsPut() && !pArguments.empty();
-  DISPPARAMS parameters{pArguments.data(), isPut ? &put : nullptr, static_cast<UINT>(pArguments.size()),
-                        isPut ? 1U : 0U};
-  OwnedVariant result;
-  EXCEPINFO exception{};
-  const HRESULT answer = pFace.AsDispatch()->Invoke(pCall.Member().id, IID_NULL, 0, static_cast<WORD>(pCall.Kind()),
-                                                    &parameters, &result.value, &exception, nullptr);
-  SysFreeString(exception.bstrSource);
-  SysFreeString(exception.bstrDescription);
-  return answer == S_OK ? 0 : NumberOfResult(answer == DISP_E_EXCEPTION ? exception.scode : answer);
 }
 
 }  // namespace qzbase::tests

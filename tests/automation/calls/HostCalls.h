@@ -8,12 +8,14 @@
 
 namespace qzbase::tests {
 
-// A member of a fresh object, whose variables are passed by reference where the table says so.
-CallOutcome CallLate(automation::com::OuterFace& pFace, const MemberCall& pCall);
-CallOutcome CallEarly(automation::com::OuterFace& pFace, const MemberCall& pCall);
+// What the platform calls a type.
+VARTYPE TypeOf(const automation::TypeDesc& pType);
 
-// By variants of any kind; only the number of the error comes back, 0 for none.
-std::int32_t InvokeWith(automation::com::OuterFace& pFace, const MemberCall& pCall, std::vector<VARIANT>& pArguments);
+// A member of a fresh object, whose variables are passed by reference where the table says so. The pointer at a
+// position, of an argument or behind them of the result, is null.
+CallOutcome CallLate(automation::com::OuterFace& pFace, const MemberCall& pCall);
+CallOutcome CallEarly(automation::com::OuterFace& pFace, const MemberCall& pCall,
+                      std::size_t pNullAt = ~std::size_t{0});
 
 // The object behind a fresh face; the reference is the caller's.
 automation::com::OuterFace* NewFace(const automation::ClassEntry& pEntry);
