@@ -14,19 +14,19 @@ using namespace automation;
 using namespace automation::com;
 using namespace runtime;
 
+VARTYPE TypeOf(const TypeDesc& pType) {
+  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
+                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
+  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
+  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
+}
+
 namespace {
 
 std::string ErrorText(HRESULT pResult, HRESULT pCode) {
   if (pResult == S_OK) return "";
   if (pResult == E_POINTER) return "null pointer";
   return "error " + std::to_string(NumberOfResult(pResult == DISP_E_EXCEPTION ? pCode : pResult));
-}
-
-VARTYPE TypeOf(const TypeDesc& pType) {
-  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
-                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
-  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
-  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
 }
 
 // What a slot takes: memory for the native, and the value or pointer that is passed.
@@ -69,6 +69,8 @@ class SlotPassed {
   VARIANT passed_{};
 };
 
+}  // namespace
+
 std::string ShowResult(const TypeDesc& pType, std::byte* pNative) {
   OwnedVariant result;
   if (pType.base == BaseType::Void) return Show({});
@@ -87,8 +89,6 @@ std::string ShowResult(const TypeDesc& pType, std::byte* pNative) {
   }
   return Show(FromVariant(result.value, Digits::Nearest));
 }
-
-}  // namespace
 
 OuterFace* NewFace(const ClassEntry& pEntry) {
   return static_cast<OuterFace*>(reinterpret_cast<DualInterface*>(ToDispatch(pEntry.create())));

@@ -15,6 +15,12 @@ CallOutcome CallEarly(automation::com::OuterFace& pFace, const MemberCall& pCall
 // By variants of any kind; only the number of the error comes back, 0 for none.
 std::int32_t InvokeWith(automation::com::OuterFace& pFace, const MemberCall& pCall, std::vector<VARIANT>& pArguments);
 
+// The platform's type of a value of a declared type.
+VARTYPE TypeOf(const automation::TypeDesc& pType);
+
+// The text of what an early-bound call has answered, which is freed.
+std::string ShowResult(const automation::TypeDesc& pType, std::byte* pNative);
+
 // The object behind a fresh face; the reference is the caller's.
 automation::com::OuterFace* NewFace(const automation::ClassEntry& pEntry);
 
