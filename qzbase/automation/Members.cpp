@@ -12,7 +12,6 @@ bool MemberTable::Has(MemberId pId) const noexcept {
 }
 
 MemberId MemberTable::Find(std::u16string_view pName) const noexcept {
-  if (pName.empty()) return Has(kDefaultMember) ? kDefaultMember : kNoMember;
   const std::int32_t row = FindName(buckets, pName, [this](std::size_t pRow) { return rows[pRow].name; });
   return row < 0 ? kNoMember : rows[static_cast<std::size_t>(row)].id;
 }

@@ -13,8 +13,8 @@
 // although the function does not change it, `out("X")` one that it sets whatever was there. A fault in a table stops
 // the compiler, which then names one of the functions `Fault...` below.
 //
-// Members have ids, counted from 1 in order of first appearance: get, let and set of one name share one, and the
-// default member has 0. Names are found ignoring case.
+// Members have ids, counted from 1 in order of first appearance: get, let and set of one name share one.
+// No class has a default member. Names are found ignoring case.
 //
 // What the automation server, the type library and every other way to a class are made from:
 //
@@ -102,25 +102,18 @@ constexpr void CheckKinds(std::span<const MemberDesc> pRows) {
   if (count > 1 && seen[static_cast<std::size_t>(MemberKind::Method)]) FaultMethodAndPropertyOfOneName();
 }
 
-// Gives the rows of one name, from its first one on, their id, and what one of them says to all of them. True when that
-// is the default member.
-constexpr bool JoinRows(std::span<MemberDesc> pRows, MemberId pNext) {
+// Gives the rows of one name, from its first one on, their id, and what one of them says to all of them.
+constexpr void JoinRows(std::span<MemberDesc> pRows, MemberId pId) {
   const std::string_view name = pRows.front().name;
-  bool isDefault = false;
   std::string_view help;
-  for (const MemberDesc& row : pRows) {
-    if (row.name != name) continue;
-    isDefault |= row.isDefault;
-    if (help.empty()) help = row.help;
-  }
+  for (const MemberDesc& row : pRows)
+    if (row.name == name && help.empty()) help = row.help;
   if (help.empty()) FaultMemberWithoutHelp();
   for (MemberDesc& row : pRows) {
     if (row.name != name) continue;
-    row.id = isDefault ? kDefaultMember : pNext;
-    row.isDefault = isDefault;
+    row.id = pId;
     if (row.help.empty()) row.help = help;
   }
-  return isDefault;
 }
 
 constexpr void FinishRows(std::span<MemberDesc> pRows) {
@@ -128,7 +121,7 @@ constexpr void FinishRows(std::span<MemberDesc> pRows) {
   for (std::size_t i = 0; i < pRows.size(); ++i) {
     if (pRows[i].id != kNoMember) continue;
     CheckKinds(pRows.subspan(i));
-    if (!JoinRows(pRows.subspan(i), next)) ++next;
+    JoinRows(pRows.subspan(i), next++);
   }
 }
 
@@ -198,7 +191,7 @@ struct MemberTable {
   std::span<const ParameterDesc> Parameters(const MemberDesc& pRow) const {
     return parameters.subspan(pRow.firstParameter, pRow.parameterCount);
   }
-  // Ignoring case; an empty name is that of the default member. `kNoMember` where there is none.
+  // Ignoring case; `kNoMember` where there is none.
   MemberId Find(std::u16string_view pName) const noexcept;
   // The position of a named parameter of a member, -1 if there is none. A new value has no name.
   std::int32_t FindParameter(MemberId pId, std::u16string_view pName) const noexcept;

@@ -15,7 +15,6 @@
 namespace qzbase::automation {
 
 using MemberId = std::int32_t;
-inline constexpr MemberId kDefaultMember = 0;
 inline constexpr MemberId kNoMember = -1;
 inline constexpr std::size_t kMaxParameters = 16;
 
@@ -64,7 +63,6 @@ struct MemberDesc {
   std::string_view name;
   std::string_view help;
   MemberKind kind = MemberKind::Method;
-  bool isDefault = false;
   bool isHidden = false;
   std::uint8_t parameterCount = 0;   // the new value of a let or set included
   std::uint16_t firstParameter = 0;  // in the table's list of parameters
@@ -148,12 +146,6 @@ template <auto kFunction>
 struct Row : Rows<kFunction> {
   static_assert(Row::kParameterCount <= kMaxParameters);
 
-  // What is called when an object is used like a value or function.
-  constexpr Row asDefault() const {
-    Row row = *this;
-    row.rows[0].isDefault = true;
-    return row;
-  }
   // Not shown by editors.
   constexpr Row hidden() const {
     Row row = *this;

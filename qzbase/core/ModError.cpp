@@ -25,18 +25,12 @@ void ReportFailedRegistration(std::u16string_view pModule, std::u16string_view p
   os::ShowCriticalMessage(text, u"Critical error!");
 }
 
-TErrIndex RegisterOrReport(ErrorRegistry& pRegistry, std::u16string_view pModule, std::u16string_view pID,
-                           std::u16string_view pMsg, bool pAddInfo) {
-  const auto position = Attempt([&] { return pRegistry.Register(pModule, pID, pMsg, pAddInfo); });
-  if (!position) ReportFailedRegistration(pModule, pID);
-  return {position.value_or(-1)};
-}
-
-// The state of one thread. Its making is the library's start-up on that thread.
+// The state of one thread. Its making is the library's start-up on that thread; where memory is short it fails as a
+// whole, and the next use of the library tries again.
 struct ThreadState {
   ThreadState() {
     std::transform(kBuiltInErrors.begin(), kBuiltInErrors.end(), builtIn.begin(), [this](const BuiltInErrorRow& pRow) {
-      return RegisterOrReport(registry, pRow.module, pRow.id, pRow.message, pRow.addInfo);
+      return TErrIndex{registry.Register(pRow.module, pRow.id, pRow.message, pRow.addInfo)};
     });
   }
 
@@ -69,7 +63,10 @@ ErrorRegistry& Registry() {
 }
 
 TErrIndex RegisterError(std::u16string_view pModule, std::u16string_view pID, std::u16string_view pMsg, bool pAddInfo) {
-  return RegisterOrReport(Registry(), pModule, pID, pMsg, pAddInfo);
+  ErrorRegistry& registry = Registry();
+  const auto position = Attempt([&] { return registry.Register(pModule, pID, pMsg, pAddInfo); });
+  if (!position) ReportFailedRegistration(pModule, pID);
+  return {position.value_or(-1)};
 }
 
 std::int32_t FindErrIndex(std::u16string_view pModule, std::u16string_view pID) {

@@ -250,11 +250,11 @@ void BlockStorage<T>::Delete(std::int32_t pIndex) {
     CheckIndex(pIndex);
     const std::int32_t last = Written(size_);
     const bool takesZero = last < Reached(size_);  // from the slot behind it
-    if (pIndex < last) std::move(At(pIndex) + 1, At(last) + 1, At(pIndex));
-    if (takesZero && pIndex <= last)
-      slots_[Offset(last)] = T{};
-    else if (pIndex < last)
-      slots_[Offset(last)] = slots_[Offset(last - 1)];  // the slot behind the elements keeps its content
+    if (pIndex <= last) {
+      T behind = takesZero ? T{} : T(slots_[Offset(last)]);  // the slot behind the elements keeps its content
+      std::move(At(pIndex) + 1, At(last) + 1, At(pIndex));
+      slots_[Offset(last)] = std::move(behind);
+    }
     CheckCount(size_);
   }
   LetSize(runtime::CheckedNarrow<std::int32_t>(std::int64_t{size_} - 1));

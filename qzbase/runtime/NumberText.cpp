@@ -13,30 +13,26 @@
 namespace qzbase::runtime {
 namespace {
 
-// Gathers a number text and appends it in one go at the end. What is gathered never outgrows the room: a sign, the
+// Gathers a number text, which `Finish` appends in one go. What is gathered never outgrows the room: a sign, the
 // digits of a double with the zeros round them, the delimiter and an exponent.
 class NumberTail {
  public:
   explicit NumberTail(std::u16string& pText) : text_(pText) {}
-  ~NumberTail() { Flush(); }
-  NumberTail(const NumberTail&) = delete;
-  NumberTail& operator=(const NumberTail&) = delete;
 
   void Add(char16_t pCharacter) { *end_++ = pCharacter; }
   void Add(std::string_view pDigits) { end_ = std::copy(pDigits.begin(), pDigits.end(), end_); }
   void AddZeros(std::int32_t pCount) { end_ = std::fill_n(end_, pCount, u'0'); }
   void AddDelimiter(std::u16string_view pDelimiter) {
     if (pDelimiter.size() == 1) return Add(pDelimiter.front());
-    Flush();  // of unknown length
+    Finish();  // of unknown length
     text_ += pDelimiter;
   }
-
- private:
-  void Flush() {
+  void Finish() {
     text_.append(room_.data(), static_cast<std::size_t>(end_ - room_.data()));
     end_ = room_.data();
   }
 
+ private:
   std::u16string& text_;
   std::array<char16_t, 40> room_;
   char16_t* end_ = room_.data();
@@ -88,6 +84,7 @@ void Append(std::u16string& pText, double pValue, std::int32_t pMaxDigits, const
   if (decimal.IsNegative()) tail.Add(u'-');  // whatever the locale's sign is: so does the platform
   AddMantissa(tail, digits, exponentForm ? 1 : point, pRules.decimal);
   if (exponentForm) AddExponent(tail, point - 1);
+  tail.Finish();
 }
 
 // The characters of a text but the blanks, one by one.
@@ -147,7 +144,7 @@ void AppendNumberText(std::u16string& pText, double pValue, const LocaleRules& p
 void AppendNumberText(std::u16string& pText, std::int32_t pValue) {
   std::array<char, 12> digits;
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), pValue).ptr;
-  NumberTail(pText).Add({digits.data(), static_cast<std::size_t>(end - digits.data())});
+  pText.append(digits.data(), end);
 }
 
 double LeadingNumber(std::u16string_view pText) {

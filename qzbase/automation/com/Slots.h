@@ -111,6 +111,18 @@ struct NoAnswer {
   void Commit() noexcept {}
 };
 
+// Calls `pBody` with the object, which is held meanwhile.
+template <class Body>
+HRESULT RunSlot(DualInterface* pSelf, Body pBody) noexcept {
+  const HeldFace face(pSelf);
+  try {
+    pBody(*face.Get().Object());
+    return S_OK;
+  } catch (...) {
+    return ReportEarly(&face.Get().Class());
+  }
+}
+
 template <class C, std::size_t kRow, class Result, class... Given>
 struct Slot {
   using Native = typename Border<ValueOf<Result>>::Native;
@@ -120,13 +132,9 @@ struct Slot {
                                        Native* pResult) noexcept {
     if (!pResult) return NullPointerResult();
     *pResult = Native{};
-    const HeldFace face(pSelf);
-    try {
-      CallMember<C, kRow>(*face.Get().Object(), SlotAnswer<Native, ValueOf<Result>>{pResult}, Given(pPassed)...);
-      return S_OK;
-    } catch (...) {
-      return ReportEarly(&face.Get().Class());
-    }
+    return RunSlot(pSelf, [&](runtime::Object& pObject) {
+      CallMember<C, kRow>(pObject, SlotAnswer<Native, ValueOf<Result>>{pResult}, Given(pPassed)...);
+    });
   }
 };
 
@@ -135,13 +143,8 @@ struct Slot<C, kRow, void, Given...> {
   using Function = HRESULT(STDMETHODCALLTYPE*)(DualInterface*, typename Given::Passed...) noexcept;
 
   static HRESULT STDMETHODCALLTYPE Run(DualInterface* pSelf, typename Given::Passed... pPassed) noexcept {
-    const HeldFace face(pSelf);
-    try {
-      CallMember<C, kRow>(*face.Get().Object(), NoAnswer(), Given(pPassed)...);
-      return S_OK;
-    } catch (...) {
-      return ReportEarly(&face.Get().Class());
-    }
+    return RunSlot(pSelf,
+                   [&](runtime::Object& pObject) { CallMember<C, kRow>(pObject, NoAnswer(), Given(pPassed)...); });
   }
 };
 

@@ -14,6 +14,13 @@ using namespace automation;
 using namespace automation::com;
 using namespace runtime;
 
+VARTYPE TypeOf(const TypeDesc& pType) {
+  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
+                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
+  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
+  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
+}
+
 namespace {
 
 std::string ErrorText(HRESULT pResult, HRESULT pCode) {
@@ -57,6 +64,8 @@ class SlotPassed {
   VARIANT passed_{};
 };
 
+}  // namespace
+
 std::string ShowResult(const TypeDesc& pType, std::byte* pNative) {
   OwnedVariant result;
   if (pType.base == BaseType::Void) return Show({});
@@ -74,15 +83,6 @@ std::string ShowResult(const TypeDesc& pType, std::byte* pNative) {
     std::memcpy(&result.value.llVal, pNative, sizeof(LONGLONG));
   }
   return Show(FromVariant(result.value, Digits::Nearest));
-}
-
-}  // namespace
-
-VARTYPE TypeOf(const TypeDesc& pType) {
-  static constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_BOOL, VT_UI1,     VT_I2,       VT_I4,       VT_R4,     VT_R8,
-                                       VT_DATE,  VT_BSTR, VT_VARIANT, VT_DISPATCH, VT_DISPATCH, VT_RECORD, VT_I4};
-  const VARTYPE type = kTypes[static_cast<std::size_t>(pType.base)];
-  return pType.isArray ? static_cast<VARTYPE>(VT_ARRAY | type) : type;
 }
 
 OuterFace* NewFace(const ClassEntry& pEntry) {
