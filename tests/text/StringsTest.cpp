@@ -38,11 +38,14 @@ TEST(Strings, TakeTimeInProportionToTheText) {
     EXPECT_EQ(replace(text, u",", u"--").size(), text.size() + 300'000);
 }
 
-// The tests that are made for every cell of a table.
+// The tests that are made for every cell of a table. The first ones make what their thread keeps.
 TEST(Strings, RangesCostNoMemory) {
-  const std::size_t before = RequestedBytes();
-  EXPECT_TRUE(ModString::IsInRange(0.7, u"[0.1;1000000000]", u"0.1"));
-  EXPECT_EQ(ModString::EnumOrd(u"a long item in the list", u"{some other long item;a long item in the list}"), 2);
+  std::size_t before = 0;
+  for (int round = 0; round < 2; ++round) {
+    before = RequestedBytes();
+    EXPECT_TRUE(ModString::IsInRange(0.7, u"[0.1;1000000000]", u"0.1"));
+    EXPECT_EQ(ModString::EnumOrd(u"a long item in the list", u"{some other long item;a long item in the list}"), 2);
+  }
   EXPECT_EQ(RequestedBytes(), before);
 }
 
