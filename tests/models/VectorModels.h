@@ -131,6 +131,10 @@ inline bool IsBehind(Variant pElement, Variant pKey, bool pAscending, Comparer p
          order == (pAscending ? runtime::Order::Greater : runtime::Order::Less);
 }
 
+// By the type of their elements.
+inline constexpr const char16_t* kVectorNames[] = {u"CVector", u"CBoolVector", u"CDblVector", u"CLngVector",
+                                                   u"CStrVector"};
+
 template <class T>
 class Vector final : public ModelOf<Vector<T>> {
   using V = Vector;
@@ -141,10 +145,9 @@ class Vector final : public ModelOf<Vector<T>> {
                                                                  : EVTInvalid;
   static constexpr bool kIsVariant = kType == EVTInvalid, kIsBoolean = kType == EVTBoolean,
                         kIsText = kType == EVTString, kIsNumber = kType == EVTDouble || kType == EVTLong;
-  static constexpr const char16_t* kNames[] = {u"CVector", u"CBoolVector", u"CDblVector", u"CLngVector", u"CStrVector"};
 
  public:
-  static constexpr std::u16string_view kName = kNames[kType];
+  static constexpr std::u16string_view kName = kVectorNames[kType];
 
   QZVarType VarType() { return kIsVariant || kIsBoolean ? varType_ : EVTDouble; }
   void LetVarType(QZVarType pVarType) { varType_ = pVarType; }
