@@ -47,9 +47,9 @@ Pair DrawArray(World& pWorld, std::vector<T> pElements) {
 }  // namespace
 
 Pair DrawOneOf(World& pWorld, std::size_t pKind) {
-  if (pKind == KindOf<Something>()) return DrawObject(pWorld, pWorld.AnyLeaf());
+  if (pKind == KindOf<Something>()) return DrawObject(pWorld, nullptr);
   if (pKind == KindOf<Variant>()) {
-    if (pWorld.Choose(18) == 0) return DrawObject(pWorld, Buffer::kTable());
+    if (pWorld.Choose(18) == 0) return DrawObject(pWorld, &Buffer::kTable());
     const std::size_t kinds[] = {KindOf<Variant>(), KindOf<Date>(), KindOf<bool>(), KindOf<double>(), KindOf<double>(),
                                  KindOf<Long>(),    KindOf<Long>(), KindOf<Text>(), KindOf<Text>()};
     pKind = kinds[pWorld.Choose(std::size(kinds))];

@@ -205,12 +205,8 @@ class Matrix final : public ListOf<Matrix<T>, Vector<T>> {
     for (Long i = 1; i <= half; ++i) std::swap(slots_[i], slots_[size_ - i + 1]);
   }
   void CopyFrom(M& pSource) {
-    M copies;
-    copies.Resize(pSource.size_);
-    for (Long i = 1; i <= pSource.size_; ++i) copies.slots_[i] = pSource.Copy(i);
+    this->Replace(pSource.size_, [&](Long pRow) { return pSource.Copy(pRow); });
     nrCols_ = pSource.nrCols_;
-    size_ = pSource.size_;
-    slots_ = copies.slots_;
   }
   bool IsEqual(M& pCompare) { return nrCols_ == pCompare.nrCols_ && M::ListOf::IsEqual(pCompare); }
   static constexpr auto kTag = u"MA#1";

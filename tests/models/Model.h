@@ -100,7 +100,7 @@ M& The(const Ref<M>& pObject) {
 
 // ---- Arguments: what is drawn for a parameter (Arguments.cpp), and what the model gets of it.
 
-Pair DrawObject(World& pWorld, const Class& pClass);
+Pair DrawObject(World& pWorld, const Class* pClass);
 Pair DrawOneOf(World& pWorld, std::size_t pKind);
 
 using Drawn =
@@ -140,7 +140,7 @@ struct Argument<std::optional<T>> : Argument<T> {
 };
 template <std::derived_from<Model> M>
 struct Argument<Ref<M>> {
-  static Pair Draw(World& pWorld) { return DrawObject(pWorld, M::kTable()); }
+  static Pair Draw(World& pWorld) { return DrawObject(pWorld, &M::kTable()); }
   static Ref<M> From(std::span<Variant> pArguments, std::size_t pIndex) {
     return std::static_pointer_cast<M>(*pArguments[pIndex].If<Something>());
   }

@@ -20,7 +20,7 @@ class EntryData final : public ListOf<EntryData, VarVector> {
   void LetNrCols(Count pNrCols) { Resize(pNrCols); }
   QZVarType VarType(At pIdx) { return Stored(pIdx).VarType(); }
   void LetVarType(At pIdx, QZVarType pVarType) {
-    if (!slots_[pIdx] || slots_[pIdx]->VarType() != pVarType) slots_[pIdx] = NewColumn(pVarType);
+    if (!slots_[pIdx] || slots_[pIdx]->VarType() != pVarType) slots_[pIdx] = NewColumn(pVarType, nrRows_);
   }
   Ref<VarVector> Col(At pIdx) {
     Stored(pIdx);
@@ -30,7 +30,7 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     The(pCol);
     slots_[pIdx] = pCol;
   }
-  void InsertCol(QZVarType pVarType, At pPos) { Insert(pPos, NewColumn(pVarType)); }
+  void InsertCol(QZVarType pVarType, At pPos) { Insert(pPos, NewColumn(pVarType, nrRows_)); }
   void AddCol(QZVarType pVarType) { InsertCol(pVarType, 0); }
   void MoveCol(At pOldPos, At pNewPos) {
     if (pOldPos == pNewPos) return;
@@ -84,16 +84,16 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     }
   }
   void CopyFromValues(Matrix<double>& pSource) {
-    Take(pSource.NrCols(), pSource.Size(), [&](Long pCol) {
-      auto col = New<VarVector>();
-      col->LetVarType(EVTDouble);
-      col->LetSize(pSource.Size());
+    Replace(pSource.NrCols(), [&](Long pCol) {
+      const Ref<VarVector> col = NewColumn(EVTDouble, pSource.Size());
       for (Long r = 1; r <= pSource.Size(); ++r) col->LetValue(r, pSource.Value(pCol, r));
       return col;
     });
+    nrRows_ = pSource.Size();
   }
   void CopyFrom(EntryData& pSource) {
-    Take(pSource.size_, pSource.nrRows_, [&](Long pCol) { return pSource.Copy(pCol); });
+    Replace(pSource.size_, [&](Long pCol) { return pSource.Copy(pCol); });
+    nrRows_ = pSource.nrRows_;
   }
   bool IsEqual(EntryData& pCompare) {
     if (size_ != pCompare.size_ || nrRows_ != pCompare.nrRows_) return false;
@@ -137,25 +137,16 @@ class EntryData final : public ListOf<EntryData, VarVector> {
   }
 
  private:
-  Ref<VarVector> NewColumn(QZVarType pVarType) {
+  static Ref<VarVector> NewColumn(QZVarType pVarType, Long pNrRows) {
     auto col = New<VarVector>();
     col->LetVarType(pVarType);
-    col->LetSize(nrRows_);
+    col->LetSize(pNrRows);
     return col;
   }
   void ForEachColumn(auto pBody) {
     for (Long c = 1; c <= size_; ++c)
       if (slots_[c]) pBody(*slots_[c]);
   }
-  void Take(Long pNrCols, Long pNrRows, auto pCol) {
-    Slots<Ref<VarVector>> cols;
-    cols.ReDim(std::max(pNrCols, 1));
-    for (Long c = 1; c <= pNrCols; ++c) cols[c] = pCol(c);
-    size_ = pNrCols;
-    nrRows_ = pNrRows;
-    slots_ = cols;
-  }
-
   Long nrRows_ = 0;
 };
 

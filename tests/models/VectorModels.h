@@ -55,6 +55,14 @@ class ListOf : public ModelOf<Self> {
     slots_.Close(pIndex, size_);
     Resize(std::int64_t{size_} - 1);
   }
+  // Keeps what there is until all is made.
+  void Replace(Long pSize, auto pMake) {
+    Slots<Ref<X>> made;
+    made.ReDim(std::max(pSize, 1));
+    for (Long i = 1; i <= pSize; ++i) made[i] = pMake(i);
+    slots_ = made;
+    size_ = pSize;
+  }
   void Each(auto pBody) {
     for (Long i = 1; i <= size_; ++i) pBody(Stored(i));
   }
@@ -173,18 +181,20 @@ class Vector final : public ModelOf<Vector<T>> {
     for (const char16_t* opening : {u"(", u"{"})
       if (runtime::EqualText(text.substr(0, 1), opening))
         text = text.size() < 2 ? u"" : text.substr(1, text.size() - 2);
-    std::vector<Text> pieces;
-    for (std::size_t from = 0; !text.empty() && from <= text.size(); from += pieces.back().size() + 1)
-      pieces.push_back(text.substr(from, std::min(text.find(u';', from), text.size()) - from));
     const auto suppressed = [](auto pStatement) {
       try {
         pStatement();
       } catch (const runtime::AutomationError&) {
       }
     };
-    suppressed([&] { slots_.LetSize(static_cast<std::int64_t>(pieces.size())); });
-    for (std::size_t i = 0; i < pieces.size(); ++i)
-      suppressed([&] { slots_[static_cast<Long>(i) + 1] = As(runtime::ConvertTo(pieces[i], Variant(T()).Kind())); });
+    const auto separators = static_cast<Long>(std::count(text.begin(), text.end(), u';'));
+    const Long count = text.empty() ? 0 : separators + 1;
+    suppressed([&] { slots_.LetSize(count); });
+    for (Long i = 1; i <= count; ++i) {
+      const Text piece = text.substr(0, text.find(u';'));
+      suppressed([&] { slots_[i] = As(runtime::ConvertTo(piece, Variant(T()).Kind())); });
+      text.erase(0, piece.size() + 1);
+    }
   }
   Text GetString() {
     Text text = u"(";
@@ -218,14 +228,10 @@ class Vector final : public ModelOf<Vector<T>> {
   auto ClosestIndex(T pValue, std::optional<At> pStart, std::optional<At> pEnd) {
     const Long start = pStart.value_or(1);
     const Long given = pEnd.value_or(0), end = given <= start ? Size() : given;
-    Long best = start;
-    T least = Distance(pValue, slots_[start]), distance = least;
-    for (std::int64_t i = std::int64_t{start} + 1; i <= end && distance != 0; ++i) {
-      distance = Distance(pValue, slots_[i]);
-      if (!(distance < least)) continue;
-      best = static_cast<Long>(i);
-      least = distance;
-    }
+    const auto distance = [&](std::int64_t pIndex) { return Distance(pValue, slots_[pIndex]); };
+    std::int64_t best = start;
+    for (std::int64_t i = best + 1; distance(best) != 0 && i <= end; ++i)
+      if (distance(i) < distance(best)) best = i;
     return static_cast<std::conditional_t<kType == EVTLong, double, Long>>(best);
   }
   Long ClosestLeftIndex(T pValue) {

@@ -28,27 +28,24 @@ Long World::Choose(std::size_t pCount) {
   return chosen;
 }
 
-Pair World::Any(const Class& pClass) {
+// The objects of a class; of none, those that hold no others.
+std::vector<std::size_t> World::Find(const Class* pClass) const {
   std::vector<std::size_t> found;
-  for (std::size_t i = 0; i < entries_.size(); ++i)
-    if (&entries_[i].model->Table() == &pClass) found.push_back(i);
-  if (found.empty() || Choose(12) == 0) return {nullptr, nullptr};
-  return Object(found[static_cast<std::size_t>(Choose(found.size()))]);
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const Class& other = entries_[i].model->Table();
+    if (pClass ? pClass == &other : other.name != u"CObjVector") found.push_back(i);
+  }
+  return found;
 }
 
 Pair World::Object(std::size_t pEntry) const {
-  return {entries_[pEntry].library, Ref<runtime::Object>(entries_[pEntry].model)};
+  return {entries_[pEntry].library, Something(entries_[pEntry].model)};
 }
 
-Pair DrawObject(World& pWorld, const Class& pClass) {
-  return pWorld.Any(pClass);
-}
-
-const Class& World::AnyLeaf() {
-  std::vector<const Class*> found;
-  for (const Entry& each : entries_)
-    if (each.model->Table().name != u"CObjVector") found.push_back(&each.model->Table());
-  return *found[static_cast<std::size_t>(Choose(found.size()))];
+Pair DrawObject(World& pWorld, const Class* pClass) {
+  const std::vector<std::size_t> found = pWorld.Find(pClass);
+  if (found.empty() || pWorld.Choose(12) == 0) return {nullptr, nullptr};
+  return pWorld.Object(found[static_cast<std::size_t>(pWorld.Choose(found.size()))]);
 }
 
 World::Outcome World::Call(runtime::Object& pObject, const Member& pMember, std::vector<Variant> pArguments) {
@@ -90,7 +87,7 @@ bool World::Step(std::uint64_t pChoices) {
   const Outcome actual = Call(*entry.library, member, library);
   if (actual.error == 0 && runtime::LastError().number != 0) return Differs("it changed the last error");
   twins_.clear();
-  if (!SameOutcome(actual, expected, "the result")) return false;
+  if (!Same(actual, expected, "the result")) return false;
   Put(actual.value, expected.value);
   return true;
 }
@@ -100,10 +97,9 @@ void World::Put(const Variant& pLibrary, const Variant& pModel) {
   const auto* model = pModel.If<Something>();
   if (!model || !*model) return;
   const auto twin = std::static_pointer_cast<Model>(*model);
-  std::vector<Entry*> found;
-  for (Entry& each : entries_)
-    if (&each.model->Table() == &twin->Table()) found.push_back(&each);
-  if (!found.empty()) *found[static_cast<std::size_t>(Choose(found.size()))] = {*pLibrary.If<Something>(), twin};
+  const std::vector<std::size_t> found = Find(&twin->Table());
+  if (!found.empty())
+    entries_[found[static_cast<std::size_t>(Choose(found.size()))]] = {*pLibrary.If<Something>(), twin};
 }
 
 void World::CompareAll() {
@@ -117,20 +113,15 @@ bool World::Differs(const std::string& pHow) {
   return false;
 }
 
-bool World::SameOutcome(const Outcome& pLibrary, const Outcome& pModel, const std::string& pPath) {
-  if (pLibrary.error == pModel.error) return Same(pLibrary.value, pModel.value, pPath);
+bool World::Same(const Outcome& pLibrary, const Outcome& pModel, const std::string& pPath) {
+  const auto *number = pLibrary.value.If<Long>(), *other = pModel.value.If<Long>();
+  if (number && other && *number == *other) return true;  // without making texts
+  const auto *left = pLibrary.value.If<Something>(), *right = pModel.value.If<Something>();
+  if (left && right) return SameObject(*left, *right, pPath);
   const auto told = [&](const Outcome& pOutcome) {
     return pOutcome.error ? "error " + std::to_string(pOutcome.error) : Show(pOutcome.value);
   };
-  return Differs(pPath + ": library " + told(pLibrary) + ", model " + told(pModel));
-}
-
-bool World::Same(const Variant& pLibrary, const Variant& pModel, const std::string& pPath) {
-  const auto *left = pLibrary.If<Something>(), *right = pModel.If<Something>();
-  if (left && right) return SameObject(*left, *right, pPath);
-  const auto *number = pLibrary.If<Long>(), *other = pModel.If<Long>();
-  if (number && other && *number == *other) return true;  // without making texts
-  const std::string actual = Show(pLibrary), expected = Show(pModel);
+  const std::string actual = told(pLibrary), expected = told(pModel);
   return actual == expected || Differs(pPath + ": library " + actual + ", model " + expected);
 }
 
@@ -145,7 +136,8 @@ bool World::SameObject(const Something& pLibrary, const Something& pModel, const
   right = pLibrary.get();
   auto& model = static_cast<Model&>(*pModel);
   const auto* buffer = dynamic_cast<CBuffer*>(pLibrary.get());
-  if (buffer && !Same(buffer->Capacity(), static_cast<Buffer&>(model).Capacity(), pPath + ".Capacity")) return false;
+  if (buffer && !Same({buffer->Capacity()}, {static_cast<Buffer&>(model).Capacity()}, pPath + ".Capacity"))
+    return false;
   for (const Member& each : model.Table().members)
     if (each.isShown && !SameSlots(*pLibrary, model, each, pPath + "." + os::ToUtf8(each.name))) return false;
   return true;
@@ -156,7 +148,7 @@ bool World::SameSlots(runtime::Object& pLibrary, Model& pModel, const Member& pM
   for (Long i = 0;; i += 1 + i / 64) {
     const std::vector<Variant> index(pMember.arguments.size(), i);
     const Outcome actual = Call(pLibrary, pMember, index), expected = Call(pModel, pMember, index);
-    if (!SameOutcome(actual, expected, pPath + "(" + std::to_string(i) + ")")) return false;
+    if (!Same(actual, expected, pPath + "(" + std::to_string(i) + ")")) return false;
     const bool isBehind = i > 0 && expected.error == static_cast<Long>(RuntimeError::SubscriptOutOfRange);
     if (index.empty() || isBehind) return true;
   }

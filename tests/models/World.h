@@ -27,8 +27,7 @@ class World {
   std::string calls;       // where they are to be told
 
   Pair Object(std::size_t pEntry) const;
-  Pair Any(const Class& pClass);
-  const Class& AnyLeaf();           // a class whose objects hold no others
+  std::vector<std::size_t> Find(const Class* pClass) const;
   Long Choose(std::size_t pCount);  // from 0 on
 
  private:
@@ -42,9 +41,8 @@ class World {
   };
 
   Outcome Call(runtime::Object& pObject, const Member& pMember, std::vector<Variant> pArguments);
-  bool Same(const Variant& pLibrary, const Variant& pModel, const std::string& pPath);
   bool SameObject(const Something& pLibrary, const Something& pModel, const std::string& pPath);
-  bool SameOutcome(const Outcome& pLibrary, const Outcome& pModel, const std::string& pPath);
+  bool Same(const Outcome& pLibrary, const Outcome& pModel, const std::string& pPath);
   bool SameSlots(runtime::Object& pLibrary, Model& pModel, const Member& pMember, const std::string& pPath);
   void Put(const Variant& pLibrary, const Variant& pModel);
   bool Differs(const std::string& pHow);
