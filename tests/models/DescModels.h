@@ -1,6 +1,7 @@
 // The models of TVarDesc, TCtrlDesc, TEntryDesc, CVarDescs, CEntryDescs and CTypedInfo.
 #pragma once
 
+#include "qzbase/persist/Record.h"
 #include "tests/models/VectorModels.h"
 
 namespace qzbase::models {
@@ -11,12 +12,13 @@ struct Field {
   Variant initial;
   Pair (*draw)(World&);
   Text label;  // in the text
-};
-template <class T>
-Field FieldOf(const Text& pName, T pInitial, const Text& pLabel = {}) {
-  return {pName, pInitial, &Argument<T>::Draw, pLabel.empty() ? pName : pLabel};
-}
 
+  template <class T>
+  static Field Of(const Text& pName, T pInitial, const Text& pLabel = {}) {
+    return {pName, pInitial, &Argument<T>::Draw, pLabel.empty() ? pName : pLabel};
+  }
+  static Field Words(const Text& pName, const Text& pLabel = {}) { return Of(pName, Text(), pLabel); }
+};
 template <class Self>
 class FieldsOf : public ModelOf<Self> {
  public:
@@ -55,10 +57,6 @@ class FieldsOf : public ModelOf<Self> {
       else if (Itself().IsSaved(i, pVersion))
         values[i] = pBuffer->NextOf(VarTypeOf(values[i]));
   }
-  static Long Version(const Text& pTag) {  // those drawn have one digit
-    const std::size_t at = pTag.find(u'#');
-    return at == Text::npos || at + 1 >= pTag.size() ? 0 : Long{pTag[at + 1]} - u'0';
-  }
   // A read and an assignment for each field.
   static Members FieldRows() {
     Members rows;
@@ -82,16 +80,16 @@ class VarDesc final : public FieldsOf<VarDesc> {
   static constexpr std::u16string_view kName = u"TVarDesc";
   enum : std::size_t { kDisplayed = 1, kType = 3, kFormat = 4, kNrDims = 7, kUserDefined = 9 };
   static std::vector<Field> Fields() {
-    return {FieldOf<Text>(u"ID", u""),
-            FieldOf<Text>(u"Name", u""),
-            FieldOf<Text>(u"Unit", u""),
-            FieldOf<QZVarType>(u"VarType", EVTString, u"Type"),
-            FieldOf<Text>(u"OutFormat", u"", u"Format"),
-            FieldOf<bool>(u"IsFormula", false),
-            FieldOf<Text>(u"Description", u""),
-            FieldOf<Long>(u"NrDims", 0),
-            FieldOf<Text>(u"Tag", u""),
-            FieldOf<bool>(u"UserDefined", false)};
+    return {Field::Words(u"ID"),
+            Field::Words(u"Name"),
+            Field::Words(u"Unit"),
+            Field::Of(u"VarType", EVTString, u"Type"),
+            Field::Words(u"OutFormat", u"Format"),
+            Field::Of(u"IsFormula", false),
+            Field::Words(u"Description"),
+            Field::Of(u"NrDims", 0),
+            Field::Words(u"Tag"),
+            Field::Of(u"UserDefined", false)};
   }
   QZVarType VarType() { return static_cast<QZVarType>(*values[kType].If<Long>()); }
   bool IsUserDefined() { return *values[kUserDefined].If<bool>(); }
@@ -111,7 +109,7 @@ class VarDesc final : public FieldsOf<VarDesc> {
     if (!IsUserDefined()) values[kDisplayed] = u"";
     FieldsOf::Write(pBuffer);
   }
-  void Read(const Ref<Buffer>& pBuffer, const Text& pTag) { ReadFields(pBuffer, Version(pTag)); }
+  void Read(const Ref<Buffer>& pBuffer, const Text& pTag) { ReadFields(pBuffer, TagVersion(pTag)); }
   static Members Rows() {
     Members fields = FieldRows();
     fields.resize(2 * kUserDefined);  // which is a secret
@@ -125,9 +123,9 @@ class CtrlDesc final : public FieldsOf<CtrlDesc> {
   enum : std::size_t { kSaveMask = 2, kRange = 3, kInterval = 4, kNrDims = 99 };  // it has none
   bool userDefined = false;
   static std::vector<Field> Fields() {
-    return {FieldOf<Text>(u"ID", u""),       FieldOf<Long>(u"CtrlType", 1, u"Type"), FieldOf<bool>(u"SaveMask", true),
-            FieldOf<Text>(u"Range", u""),    FieldOf<Text>(u"Interval", u""),        FieldOf<Long>(u"Width", 1000),
-            FieldOf<bool>(u"Visible", true), FieldOf<bool>(u"Removable", false),     FieldOf<bool>(u"Locked", false)};
+    return {Field::Words(u"ID"),         Field::Of(u"CtrlType", 1, u"Type"), Field::Of(u"SaveMask", true),
+            Field::Words(u"Range"),      Field::Words(u"Interval"),          Field::Of(u"Width", 1000),
+            Field::Of(u"Visible", true), Field::Of(u"Removable", false),     Field::Of(u"Locked", false)};
   }
   bool UserDefined() { return userDefined; }
   void LetUserDefined(bool pUserDefined) { userDefined = pUserDefined; }
@@ -140,7 +138,7 @@ class CtrlDesc final : public FieldsOf<CtrlDesc> {
   static constexpr auto kTag = u"CD#2";
   void Read(const Ref<Buffer>& pBuffer, const Text& pTag) {
     ReadFields(pBuffer, 0);
-    userDefined = Version(pTag) < 2 && pBuffer->NextBoolean();
+    userDefined = TagVersion(pTag) < 2 && pBuffer->NextBoolean();
   }
   static Members Rows() {
     using D = CtrlDesc;
