@@ -26,7 +26,7 @@ TEST_P(Models, AgreeWithTheLibrary) {
   const std::vector<std::uint64_t> sequence{std::istream_iterator<std::uint64_t>(text), {}};
   for (const char* name : {"en-US", "de-DE"}) {
     const runtime::ScopedLocale locale(tests::TestLocale(name));
-    const std::string difference = numbers ? models::Run(GetParam(), sequence)
+    const std::string difference = numbers ? models::Run(GetParam(), sequence, true)
                                            : RunRandomly(GetParam(), seed, seconds ? std::atof(seconds) : 0.25);
     EXPECT_TRUE(difference.empty()) << name << "\n" << difference;
   }

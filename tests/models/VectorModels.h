@@ -106,12 +106,6 @@ inline bool Same(const Text& pLeft, const Text& pRight) {
 inline bool Same(const Variant& pLeft, const Variant& pRight) {
   return runtime::CompareExact(pLeft, pRight) == runtime::Order::Equal;
 }
-template <class T>
-requires std::is_arithmetic_v<T>
-bool Same(T pLeft, T pRight) {
-  return pLeft == pRight;
-}
-
 inline Long Plus(Long pLeft, Long pRight) {
   return Checked(std::int64_t{pLeft} + pRight);
 }

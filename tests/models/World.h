@@ -54,8 +54,8 @@ class World {
   bool tells_;
 };
 
-// The difference that a sequence shows, "" if none.
-std::string Run(std::span<const Class* const> pClasses, std::span<const std::uint64_t> pSequence);
+// The difference that a sequence shows, "" if none; with the calls, which takes longer.
+std::string Run(std::span<const Class* const> pClasses, std::span<const std::uint64_t> pSequence, bool pTells = false);
 
 // Runs random sequences until the seconds are over; the first difference, by the shortest sequence that still shows it,
 // with its calls and its numbers.
