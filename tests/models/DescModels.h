@@ -337,9 +337,9 @@ class TypedInfo final : public ModelOf<TypedInfo> {
   static Members Rows() {
     using I = TypedInfo;
     return Through<I, EntryDescs>([](I& pInfo) -> EntryDescs& { return *pInfo.descs_; }, u"Desc DescRef Index") +
-           Shown<&I::NrInfos, &I::Value, &I::DescsRef>() + Lets<&I::LetNrInfos, &I::LetValue>() +
-           Calls<&I::Clear, &I::AddInfo, &I::AddInfo, &I::DeleteInfo, &I::GetValue, &I::SetValue, &I::GetString,
-                 &I::SetupFrom, &I::UpdateFrom>() +
+           Shown<&I::NrInfos, &I::Value, &I::DescsRef>() + Lets<&I::LetNrInfos, &I::LetValue, &I::LetValue>() +
+           Calls<&I::Clear, &I::AddInfo, &I::AddInfo, &I::DeleteInfo, &I::DeleteInfo, &I::GetValue, &I::SetValue,
+                 &I::GetString, &I::SetupFrom, &I::UpdateFrom>() +
            Family();
   }
 

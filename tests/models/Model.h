@@ -245,9 +245,9 @@ class ModelOf : public Model {
   void LoadFromBuffer(const Ref<Buffer>& pBuffer, std::optional<bool> pAppend) {
     Load(pBuffer.get(), pAppend.value_or(false), [&](const Text& pTag) { Itself().Read(pBuffer, pTag); });
   }
-  static Members Copies() { return Calls<&Self::CopyFrom, &Self::GetCopy>(); }
+  static Members Copies() { return Calls<&Self::CopyFrom, &Self::CopyFrom, &Self::GetCopy>(); }
   static Members Records() { return Calls<&Self::SaveToBuffer, &Self::LoadFromBuffer>(); }
-  static Members Family() { return Copies() + Records() + Calls<&Self::IsEqual>(); }
+  static Members Family() { return Copies() + Records() + Calls<&Self::IsEqual, &Self::IsEqual>(); }
 
  private:
   Self& Itself() { return static_cast<Self&>(*this); }

@@ -120,8 +120,7 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     slots_ = {};
     Resize(size_);
     for (Long c = 1; c <= size_; ++c) {
-      slots_[c] = New<VarVector>();
-      slots_[c]->LetVarType(static_cast<QZVarType>(pBuffer->NextLong()));
+      slots_[c] = NewColumn(static_cast<QZVarType>(pBuffer->NextLong()), 0);
       slots_[c]->LoadFromBuffer(pBuffer, true);
     }
   }
@@ -130,7 +129,7 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     using D = EntryData;
     return As(u"NrCols", Shown<&D::Size>()) + Shown<&D::VarType, &D::Col, &D::NrRows>() +
            As(u"Col", Lets<&D::LetStored>()) + Sets<&D::SetCol>() +
-           Lets<&D::LetNrCols, &D::LetVarType, &D::LetNrRows, &D::LetValue, &D::LetValue>() +
+           Lets<&D::LetNrCols, &D::LetVarType, &D::LetNrRows, &D::LetNrRows, &D::LetValue, &D::LetValue>() +
            Calls<&D::Clear, &D::Col, &D::InsertCol, &D::AddCol, &D::AddCol, &D::MoveCol, &D::DeleteCol, &D::InsertRow,
                  &D::AddRow, &D::DeleteRow, &D::Value, &D::Sort, &D::Sort, &D::CopyFromValues>() +
            Family();
@@ -147,6 +146,7 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     for (Long c = 1; c <= size_; ++c)
       if (slots_[c]) pBody(*slots_[c]);
   }
+
   Long nrRows_ = 0;
 };
 
