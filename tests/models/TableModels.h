@@ -85,7 +85,7 @@ class EntryData final : public ListOf<EntryData, VarVector> {
   }
   void CopyFromValues(Matrix<double>& pSource) {
     Replace(pSource.NrCols(), [&](Long pCol) {
-      const Ref<VarVector> col = NewColumn(EVTDouble, pSource.Size());
+      Ref<VarVector> col = NewColumn(EVTDouble, pSource.Size());
       for (Long r = 1; r <= pSource.Size(); ++r) col->LetValue(r, pSource.Value(pCol, r));
       return col;
     });
