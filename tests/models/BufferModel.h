@@ -5,7 +5,7 @@
 
 #include "qzbase/core/ModError.h"
 #include "qzbase/os/CodePage.h"
-#include "qzbase/runtime/DatePattern.h"
+#include "qzbase/persist/Crc.h"
 #include "tests/models/Model.h"
 
 namespace qzbase::models {
@@ -15,57 +15,36 @@ class Buffer final : public ModelOf<Buffer> {
   static constexpr std::u16string_view kName = u"CBuffer";
   Buffer() { Clear(); }
 
-  void AddTag(Text Arg) {
+  void AddTag(const Text& Arg) {
     const std::string bytes = os::ToCodePage(Arg);
-    AddCounted(1, {bytes.begin(), bytes.end()});
+    AddCounted(1, bytes.data(), bytes.size());
   }
-  void AddString(Text Arg) {
-    std::vector<Byte> bytes(Arg.size() * 2);
-    if (!Arg.empty()) std::memcpy(bytes.data(), Arg.data(), bytes.size());
-    AddCounted(3, bytes);
-  }
-  void AddData(Array<Byte> Arg) {
-    const std::int64_t count = Arg.Size() == 0 ? 0 : std::int64_t{Arg.UpperBound()} + 1;
-    std::vector<Byte> bytes;
-    for (Long i = 0; i < count; ++i) bytes.push_back(Arg[i]);
-    AddCounted(2, bytes);
+  void AddString(const Text& Arg) { AddCounted(3, Arg.data(), Arg.size() * 2); }
+  void AddData(const Array<Byte>& Arg) {
+    const std::vector<Byte> bytes = FromZero(Arg);
+    AddCounted(2, bytes.data(), bytes.size());
   }
   void AddDouble(double Arg) { AddFixed(4, Arg); }
   void AddLong(Long Arg) { AddFixed(5, Arg); }
   void AddBoolean(bool Arg) { AddFixed(6, static_cast<Byte>(Arg ? 0xFF : 0)); }
   void AddDate(Date Arg) { AddFixed(7, Arg.days); }
-  void AddByte(Byte Arg) { AddFixed(8, Arg); }
+  void AddByte(std::int16_t Arg) { AddFixed(8, static_cast<Byte>(Arg)); }
   void AddColor(Long Arg) { AddFixed(9, Arg); }
-  void AddObject(Variant Value, std::optional<QZVarType> VarType) {
-    switch (VarType.value_or(EVTInvalid) != EVTInvalid ? *VarType : VarTypeOf(Value)) {
-      case EVTBoolean:
-        return AddBoolean(runtime::ToBoolean(Value));
-      case EVTDouble:
-        return AddDouble(runtime::ToDouble(Value));
-      case EVTLong:
-      case EVTEnum:
-        return AddLong(runtime::ToLong(Value));
-      case EVTString:
-        return AddString(runtime::ToText(Value));
-      case EVTDate:
-        return AddDate(runtime::ToDate(Value));
-      case EVTColor:
-        return AddColor(runtime::ToLong(Value));
-      default:
-        return;
-    }
+  void AddObject(const Variant& Value, std::optional<QZVarType> VarType) {
+    if (const Kind* kind = KindOf(VarType.value_or(EVTInvalid) != EVTInvalid ? *VarType : VarTypeOf(Value)))
+      kind->add(*this, Value);
   }
 
   Text NextTag() {
     if (!typed_ || !CheckMarker(1)) return u"";
-    const std::optional<Long> count = NextTextCount();
-    if (count && *count < 0) Raise(RuntimeError::SubscriptOutOfRange);
-    const std::vector<Byte> bytes = Take(count.value_or(0));
+    const Long count = NextTextCount();
+    if (count < 0) Raise(RuntimeError::SubscriptOutOfRange);
+    const std::vector<Byte> bytes = Take(count);
     return os::FromCodePage(std::string(bytes.begin(), bytes.end()));
   }
   Text NextString() {
     CheckMarker(3);
-    const std::vector<Byte> bytes = Take(NextTextCount().value_or(0));
+    const std::vector<Byte> bytes = Take(NextTextCount());
     Text text(bytes.size() / 2, 0);
     if (!text.empty()) std::memcpy(text.data(), bytes.data(), text.size() * 2);
     return text;
@@ -84,7 +63,7 @@ class Buffer final : public ModelOf<Buffer> {
   Long NextLong() { return NextFixed<Long>(5); }
   bool NextBoolean() { return NextFixed<Byte>(6) != 0; }
   Date NextDate() { return {NextFixed<double>(7)}; }
-  Byte NextByte() { return NextFixed<Byte>(8); }
+  std::int16_t NextByte() { return NextFixed<Byte>(8); }
   Long NextColor() { return NextFixed<Long>(9); }
   Variant NextObject(std::optional<QZVarType> VarType) {
     const Long type = VarType.value_or(EVTInvalid) != EVTInvalid ? Long{*VarType} : PeekByte();
@@ -92,23 +71,8 @@ class Buffer final : public ModelOf<Buffer> {
     return NextOf(type);
   }
   Variant NextOf(Long pVarType) {
-    switch (pVarType) {
-      case EVTBoolean:
-        return NextBoolean();
-      case EVTDouble:
-        return NextDouble();
-      case EVTLong:
-      case EVTEnum:
-        return NextLong();
-      case EVTString:
-        return NextString();
-      case EVTDate:
-        return NextDate();
-      case EVTColor:
-        return NextColor();
-      default:
-        return {};
-    }
+    const Kind* kind = KindOf(pVarType);
+    return kind ? kind->next(*this) : Variant();
   }
   // The number of elements of a container, each of which takes so many bytes at least.
   Long NextCount(Long pLeastBytes = 1) {
@@ -136,83 +100,68 @@ class Buffer final : public ModelOf<Buffer> {
     Trim();
     return {0, bytes_};
   }
-  void LetByteArray(Array<Byte> pBytes) {
+  void LetByteArray(const Array<Byte>& pBytes) {
     if (pBytes.UpperBound() < 0 || pBytes.LowerBound() > 0) Raise(RuntimeError::SubscriptOutOfRange);
-    std::vector<Byte> bytes;
-    for (Long i = 0; i <= pBytes.UpperBound(); ++i) bytes.push_back(pBytes[i]);
-    bytes_ = bytes;
+    bytes_ = FromZero(pBytes);
     capacity_ = size_ = pBytes.UpperBound();
     typed_ = HasHeader() && bytes_.size() > 5 && bytes_[5] > 0;
     ResetPos();
   }
   void CopyFrom(Buffer& pSource) { LetByteArray(pSource.ByteArray()); }
-  Long CheckSum() {
-    std::uint32_t sum = 101192;
-    for (Long i = 0; i < size_; ++i) {
-      sum ^= bytes_[static_cast<std::size_t>(i)];
-      for (int bit = 0; bit < 8; ++bit) sum = sum >> 1 ^ (sum & 1 ? 0xEDB88320U : 0);
-    }
-    return static_cast<Long>(sum);
-  }
+  Long CheckSum() { return CRC(std::span(bytes_).first(static_cast<std::size_t>(size_)), 101192); }
   bool BinaryEqual(Buffer& pBuffer) {
     if (size_ != pBuffer.size_) return false;
     const Array<Byte> left = ByteArray(), right = pBuffer.ByteArray();
-    for (Long i = 1; i <= size_; ++i)
-      if (left[i] != right[i]) return false;
-    return true;
+    return std::equal(left.begin() + 1, left.end(), right.begin() + 1);  // the first byte does not count
   }
-  Text GetString() {
-    ResetPos();
-    Text text;
-    for (Long items = 0;; ++items) {
-      if (items > 4000) throw TooMuch();
-      const Long marker = PeekByte();
-      if (marker == 1) {
-        const Text tag = NextTag();
-        text += (tag.substr(0, 1) == u"\\" ? u"" : u"\n/") + tag;
-      } else if (marker == 2) {
-        text += DataText(NextData());
-      } else if (marker == 7) {
-        const Date date = NextDate();
-        try {
-          text += runtime::FormatDate(date, u"dd.mm.yyyy hh:nn:ss");
-        } catch (const runtime::AutomationError&) {
-          text += runtime::ToText(date.days);
-        }
-      } else if (marker >= 3 && marker <= 9) {
-        constexpr QZVarType kTypes[] = {EVTString, EVTDouble, EVTLong, EVTBoolean, EVTInvalid, EVTInvalid, EVTColor};
-        text += runtime::ToText(marker == 8 ? Variant(std::int16_t{NextByte()}) : NextOf(kTypes[marker - 3]));
-      } else {
-        text += u"INVALIDTYPE!!";
-        break;
-      }
-      text += u";";
-      if (cursor_ >= size_) break;
-    }
-    return text.substr(0, 1) == u"\n" ? text.substr(1) : text;
-  }
-
   static Members Rows() {
-    return AllOf(Does(u"AddTag", &Buffer::AddTag), Does(u"AddData", &Buffer::AddData),
-                 Does(u"AddString", &Buffer::AddString), Does(u"AddDouble", &Buffer::AddDouble),
-                 Does(u"AddDate", &Buffer::AddDate), Does(u"AddBoolean", &Buffer::AddBoolean),
-                 Does(u"AddLong", &Buffer::AddLong), Does(u"AddByte", &Buffer::AddByte),
-                 Does(u"AddColor", &Buffer::AddColor), Does(u"AddObject", &Buffer::AddObject),
-                 Does(u"NextTag", &Buffer::NextTag), Does(u"NextData", &Buffer::NextData),
-                 Does(u"NextString", &Buffer::NextString), Does(u"NextDouble", &Buffer::NextDouble),
-                 Does(u"NextDate", &Buffer::NextDate), Does(u"NextLong", &Buffer::NextLong),
-                 Does(u"NextBoolean", &Buffer::NextBoolean), Does(u"NextByte", &Buffer::NextByte),
-                 Does(u"NextColor", &Buffer::NextColor), Does(u"NextObject", &Buffer::NextObject),
-                 Does(u"ResetPos", &Buffer::ResetPos), Does(u"ResetPos", &Buffer::ResetPos),
-                 Does(u"Clear", &Buffer::Clear), Shown(Gets(u"Size", &Buffer::Size)), Does(u"Trim", &Buffer::Trim),
-                 Does(u"GetString", &Buffer::GetString), Gets(u"ByteArray", &Buffer::ByteArray),
-                 Lets(u"ByteArray", &Buffer::LetByteArray), Shown(Gets(u"CheckSum", &Buffer::CheckSum)),
-                 Does(u"BinaryEqual", &Buffer::BinaryEqual), CopyRows());
+    using B = Buffer;
+    return Calls<&B::AddTag, &B::AddData, &B::AddString, &B::AddDouble, &B::AddDate, &B::AddBoolean, &B::AddLong,
+                 &B::AddByte, &B::AddColor, &B::AddObject, &B::NextTag, &B::NextData, &B::NextString, &B::NextDouble,
+                 &B::NextDate, &B::NextLong, &B::NextBoolean, &B::NextByte, &B::NextColor, &B::NextObject, &B::ResetPos,
+                 &B::ResetPos, &B::Clear, &B::Trim, &B::ByteArray, &B::BinaryEqual>() +
+           Shown<&B::Size, &B::CheckSum>() + Lets<&B::LetByteArray>() + Copies();
   }
 
  private:
   static constexpr Long kBelieved = 65'536;  // bytes or elements more than there are
 
+  // How the values of a type are written and read.
+  struct Kind {
+    QZVarType type;
+    void (*add)(Buffer&, const Variant&);
+    Variant (*next)(Buffer&);
+  };
+  template <auto kAdd, auto kConvert>
+  static void Add(Buffer& pBuffer, const Variant& pValue) {
+    (pBuffer.*kAdd)(kConvert(pValue, runtime::ThreadLocale()));
+  }
+  template <auto kNext>
+  static Variant Next(Buffer& pBuffer) {
+    return (pBuffer.*kNext)();
+  }
+  static const Kind* KindOf(Long pType) {
+    using B = Buffer;
+    static constexpr Kind kKinds[] = {
+        {EVTBoolean, &Add<&B::AddBoolean, &runtime::ToBoolean>, &Next<&B::NextBoolean>},
+        {EVTDouble, &Add<&B::AddDouble, &runtime::ToDouble>, &Next<&B::NextDouble>},
+        {EVTLong, &Add<&B::AddLong, &runtime::ToLong>, &Next<&B::NextLong>},
+        {EVTEnum, &Add<&B::AddLong, &runtime::ToLong>, &Next<&B::NextLong>},
+        {EVTString, &Add<&B::AddString, &runtime::ToText>, &Next<&B::NextString>},
+        {EVTDate, &Add<&B::AddDate, &runtime::ToDate>, &Next<&B::NextDate>},
+        {EVTColor, &Add<&B::AddColor, &runtime::ToLong>, &Next<&B::NextColor>},
+    };
+    for (const Kind& each : kKinds)
+      if (each.type == pType) return &each;
+    return nullptr;
+  }
+
+  // From index 0 on, where an array need not begin.
+  static std::vector<Byte> FromZero(const Array<Byte>& pBytes) {
+    if (pBytes.Size() == 0) return {};
+    if (pBytes.LowerBound() > 0) Raise(RuntimeError::SubscriptOutOfRange);
+    return {pBytes.begin() + std::min<std::int64_t>(pBytes.Size(), -std::int64_t{pBytes.LowerBound()}), pBytes.end()};
+  }
   bool HasHeader() const {
     constexpr Byte kMagic[] = {0x03, 0x26, 0xA6, 0x15, 0xAB};
     return bytes_.size() >= sizeof kMagic && std::memcmp(bytes_.data(), kMagic, sizeof kMagic) == 0;
@@ -227,27 +176,26 @@ class Buffer final : public ModelOf<Buffer> {
       ModError::RaiseErr(ModError::ErrCodeOf(ModError::IndexOf(BuiltInError::InvVarType)), u"*");
     return marker == pMarker;
   }
-  void ReserveSpace(std::size_t pCount) {
-    size_ = Checked(size_ + static_cast<std::int64_t>(pCount));
-    if (capacity_ < size_) capacity_ = size_ + 2048;
-    bytes_.resize(static_cast<std::size_t>(std::max(capacity_, cursor_ + static_cast<Long>(pCount))) + 1);
-  }
   void Write(const void* pBytes, std::size_t pCount) {
     if (pCount > 0) std::memcpy(bytes_.data() + cursor_, pBytes, pCount);
     cursor_ += static_cast<Long>(pCount);
   }
+  void Begin(Byte pMarker, std::size_t pCount) {
+    size_ = Checked(size_ + static_cast<std::int64_t>(pCount));
+    if (capacity_ < size_) capacity_ = size_ + 2048;
+    bytes_.resize(static_cast<std::size_t>(std::max(capacity_, cursor_ + static_cast<Long>(pCount))) + 1);
+    Write(&pMarker, 1);
+  }
   template <class T>
   void AddFixed(Byte pMarker, T pValue) {
-    ReserveSpace(sizeof pValue + 1);
-    Write(&pMarker, 1);
+    Begin(pMarker, sizeof pValue + 1);
     Write(&pValue, sizeof pValue);
   }
-  void AddCounted(Byte pMarker, const std::vector<Byte>& pBytes) {
-    ReserveSpace(pBytes.size() + 5);
-    const auto count = static_cast<Long>(pBytes.size());
-    Write(&pMarker, 1);
+  void AddCounted(Byte pMarker, const void* pBytes, std::size_t pCount) {
+    Begin(pMarker, pCount + 5);
+    const auto count = static_cast<Long>(pCount);
     Write(&count, sizeof count);
-    Write(pBytes.data(), pBytes.size());
+    Write(pBytes, pCount);
   }
   template <class T>
   T Read() {
@@ -261,8 +209,8 @@ class Buffer final : public ModelOf<Buffer> {
     if (!CheckMarker(pMarker) || cursor_ + static_cast<Long>(sizeof(T)) > size_) return T{};
     return Read<T>();
   }
-  std::optional<Long> NextTextCount() {
-    if (cursor_ + 4 > size_) return {};
+  Long NextTextCount() {
+    if (cursor_ + 4 > size_) return 0;
     const Long count = Read<Long>();
     if (std::int64_t{count} > std::int64_t{size_} - cursor_ + kBelieved) Raise(RuntimeError::OutOfMemory);
     return count;
@@ -273,44 +221,23 @@ class Buffer final : public ModelOf<Buffer> {
     cursor_ += pCount;
     return {from, from + pCount};
   }
-  static Text DataText(const Array<Byte>& pBytes) {
-    if (pBytes.UpperBound() >= 5) return u"#DATA#";
-    Text text = u"#" + runtime::ToText(pBytes.UpperBound());
-    for (Long i = 1; i <= pBytes.UpperBound(); ++i) {
-      constexpr char16_t kDigits[] = u"0123456789ABCDEF";
-      const Byte byte = pBytes[i - 1];
-      text += u",<";
-      if (byte >= 16) text += kDigits[byte / 16];
-      text += kDigits[byte % 16];
-      text += u'>';
-    }
-    return text;
-  }
-
   std::vector<Byte> bytes_;
   Long capacity_ = 0, size_ = 0, cursor_ = 0;
   bool typed_ = true;
 };
 
-template <class Self>
-void Save(Self& pObject, Buffer* pBuffer, std::optional<bool> pAppend) {
+inline void Save(Buffer* pBuffer, bool pAppend, const Text& pTag, const std::function<void()>& pWrite) {
   if (!pBuffer) return;
-  if (!pAppend.value_or(false)) pBuffer->Clear();
-  const Text tag = Self::kTag;
-  pBuffer->AddTag(tag);
-  pObject.Write(*pBuffer);
-  pBuffer->AddTag(u"\\" + tag.substr(0, tag.find(u'#')));
+  if (!pAppend) pBuffer->Clear();
+  pBuffer->AddTag(pTag);
+  pWrite();
+  pBuffer->AddTag(u"\\" + pTag.substr(0, pTag.find(u'#')));
 }
 
-template <class Self>
-void Load(Self& pObject, Buffer* pBuffer, std::optional<bool> pAppend) {
+inline void Load(Buffer* pBuffer, bool pAppend, const std::function<void(const Text&)>& pRead) {
   if (!pBuffer) return;
-  if (!pAppend.value_or(false)) pBuffer->ResetPos();
-  const Text tag = pBuffer->NextTag();
-  if constexpr (requires { pObject.Read(*pBuffer, tag); })
-    pObject.Read(*pBuffer, tag);
-  else
-    pObject.Read(*pBuffer);
+  if (!pAppend) pBuffer->ResetPos();
+  pRead(pBuffer->NextTag());
   pBuffer->NextTag();
 }
 

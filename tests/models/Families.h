@@ -1,4 +1,4 @@
-// Which objects live together in a sequence. Those in front are called more often.
+// Which objects live together in a sequence. Those in front are called more often; the first one gives the name.
 #pragma once
 
 #include <vector>
@@ -7,35 +7,34 @@
 
 namespace qzbase::models {
 
-struct Family {
-  const char* name;
-  std::vector<const Class*> classes;
-};
+using Family = std::vector<const Class*>;
 
 template <class... M>
-Family Together(const char* pName) {
-  return {pName, {&M::kTable()...}};
+Family Together() {
+  return {&M::kTable()...};
 }
 
 inline const std::vector<Family>& Families() {
+  using Longs = Vector<Long>;
+  using Texts = Vector<Text>;
+  using Booleans = Vector<bool>;
   static const std::vector<Family> families = {
-      Together<Buffer, Buffer, Buffer>("Buffer"),
-      Together<DblVector, DblVector, DblVector, Buffer>("DblVector"),
-      Together<Vector<Long>, Vector<Long>, Vector<Long>, Buffer>("LngVector"),
-      Together<Vector<Text>, Vector<Text>, Vector<Text>, Buffer>("StrVector"),
-      Together<Vector<bool>, Vector<bool>, Vector<bool>, Buffer>("BoolVector"),
-      Together<VarVector, VarVector, VarVector, Buffer>("Vector"),
-      Together<ObjVector, ObjVector, ObjVector, Vector<Text>, Buffer, DblVector, VarDesc>("ObjVector"),
-      Together<DblVectors, DblVectors, DblVector, DblVector, Buffer>("DblVectors"),
-      Together<Matrix<double>, Matrix<double>, DblVector, DblVector, Buffer>("DblMatrix"),
-      Together<Matrix<Variant>, Matrix<Variant>, VarVector, VarVector, Buffer>("Matrix"),
-      Together<EntryDesc, EntryDesc, VarDesc, CtrlDesc, VarDesc, CtrlDesc, Buffer>("Desc"),
-      Together<VarDescs, VarDescs, VarDesc, VarDesc, Buffer>("VarDescs"),
-      Together<EntryDescs, EntryDescs, EntryDesc, EntryDesc, VarDesc, CtrlDesc, Buffer>("EntryDescs"),
-      Together<TypedInfo, TypedInfo, EntryDesc, EntryDesc, EntryDescs, VarDesc, Buffer>("TypedInfo"),
-      Together<EntryData, EntryData, VarVector, VarVector, Matrix<double>, Buffer>("EntryData"),
-      Together<DescTable, DescTable, EntryDesc, EntryDesc, TypedInfo, EntryData, EntryDescs, VarVector, Buffer>(
-          "Table"),
+      Together<Buffer, Buffer, Buffer>(),
+      Together<DblVector, DblVector, DblVector, Buffer>(),
+      Together<Longs, Longs, Longs, Buffer>(),
+      Together<Texts, Texts, Texts, Buffer>(),
+      Together<Booleans, Booleans, Booleans, Buffer>(),
+      Together<VarVector, VarVector, VarVector, Buffer>(),
+      Together<ObjVector, ObjVector, ObjVector, Texts, Buffer, DblVector, VarDesc>(),
+      Together<DblVectors, DblVectors, DblVector, DblVector, Buffer>(),
+      Together<Matrix<double>, Matrix<double>, DblVector, DblVector, Buffer>(),
+      Together<Matrix<Variant>, Matrix<Variant>, VarVector, VarVector, Buffer>(),
+      Together<EntryDesc, EntryDesc, VarDesc, CtrlDesc, VarDesc, CtrlDesc, Buffer>(),
+      Together<VarDescs, VarDescs, VarDesc, VarDesc, Buffer>(),
+      Together<EntryDescs, EntryDescs, EntryDesc, EntryDesc, VarDesc, CtrlDesc, Buffer>(),
+      Together<TypedInfo, TypedInfo, EntryDesc, EntryDesc, EntryDescs, VarDesc, Buffer>(),
+      Together<EntryData, EntryData, VarVector, VarVector, Matrix<double>, Buffer>(),
+      Together<DescTable, DescTable, EntryDesc, EntryDesc, TypedInfo, EntryData, EntryDescs, VarVector, Buffer>(),
   };
   return families;
 }

@@ -1,27 +1,29 @@
 // Small models of the library's containers, and how the driver (World.h) calls them.
 //
 // A model is a class of plain members over plain arrays that does what its container is to do, one statement after the
-// other, and nothing for speed. Its table has a row for each member:
+// other, and nothing for speed. To write one: derive from `ModelOf`, give it the name of its class as `kName`, and list
+// in `Rows` the members that the driver is to call, the same one twice where it matters more:
 //
-//   Shown(Gets(u"Value", &DblVector::Value)),      // compared slot by slot when a sequence ends
-//   Does(u"InsertValue", &DblVector::InsertValue),  // void InsertValue(At pAtPos, std::optional<double> pValue)
+//   Shown<&V::Size, &V::Value>()       // compared when a sequence ends, an indexed one slot by slot
+//   Calls<&V::InsertValue, &V::Sum>()  // methods and reads
+//   Lets<&V::LetSize>(), Sets<...>()   // assignments, by their names without "Let" and "Set"
 //
-// The types of the parameters say which values the driver draws for them (Arguments.cpp): `At` is a position, `Count` a
-// number of slots, `std::optional` may be left out, a reference to a model must be set, a pointer need not be. The
-// driver calls the library by the same names, so that a row is all that a member needs.
+// The library is called by the same names; `As` gives a row another one. The parameters say what values are drawn
+// (Arguments.cpp): `At` is a position, `Count` a number of slots, `std::optional` may be left out, a reference to a
+// model must be set, a `Ref` need not be. Errors are raised where the statement stands that meets them.
 #pragma once
 
 #include <algorithm>
 #include <cstdint>
 #include <deque>
 #include <functional>
-#include <limits>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "qzbase/core/QZVarType.h"
@@ -40,15 +42,20 @@ using runtime::Variant;
 using Byte = std::uint8_t;
 using Long = std::int32_t;
 using Text = std::u16string;
+using Something = Ref<runtime::Object>;
 
 struct TooMuch {};  // thrown where a model would take too long: the sequence ends there
 
-struct At {
-  Long value = 0;
+// Longs of which some values are drawn more often.
+template <int kUse>
+struct Number {
+  Number(Long pValue = 0) : value(pValue) {}
   operator Long() const { return value; }
+  Long value;
 };
-struct Count : At {};
-struct Block : At {};
+using At = Number<0>;
+using Count = Number<1>;
+using Block = Number<2>;
 
 // The same value on both sides.
 struct Pair {
@@ -60,17 +67,18 @@ class Model;
 
 struct Member {
   CallKind kind{};
-  std::u16string_view name;
+  Text name;
   std::vector<Pair (*)(World&)> arguments;
   std::size_t required = 0;
   std::function<Variant(Model&, std::span<Variant>)> call;
   bool isShown = false;
 };
+using Members = std::vector<Member>;
 
 struct Class {
   std::u16string_view name;
   Ref<Model> (*create)() = nullptr;
-  std::vector<Member> members;
+  Members members;
 };
 
 class Model : public runtime::Object {
@@ -78,39 +86,42 @@ class Model : public runtime::Object {
   virtual const Class& Table() const = 0;
   Variant Invoke(std::u16string_view pName, CallKind pKind, std::span<Variant> pArguments) final {
     for (const Member& each : Table().members)
-      if (each.kind == pKind && each.name == pName) return each.call(*this, pArguments);
+      if ((static_cast<int>(each.kind) & static_cast<int>(pKind)) != 0 && each.name == pName)
+        return each.call(*this, pArguments);
     Raise(RuntimeError::MemberNotFound);
   }
 };
 
-// ---- Arguments and results. `Draw` makes a value, `From` takes it out of the arguments of a call.
+template <class M>
+M& The(const Ref<M>& pObject) {
+  if (!pObject) Raise(RuntimeError::ObjectNotSet);
+  return *pObject;
+}
 
-Pair DrawObject(World& pWorld, const Class& pClass);
+// ---- Arguments: what is drawn for a parameter (Arguments.cpp), and what the model gets of it.
+
+Pair DrawObject(World& pWorld, const Class* pClass);
+Pair DrawOneOf(World& pWorld, std::size_t pKind);
+
+using Drawn =
+    std::variant<At, Count, Block, QZVarType, Long, std::int16_t, bool, double, Date, Text, Variant, Something>;
+template <class T>
+std::size_t KindOf() {
+  return Drawn(std::in_place_type<T>).index();
+}
 
 template <class T>
 struct Argument {
-  static Pair Draw(World& pWorld);
+  static Pair Draw(World& pWorld) { return DrawOneOf(pWorld, KindOf<T>()); }
   static T From(std::span<Variant> pArguments, std::size_t pIndex) {
     if constexpr (std::is_same_v<T, Variant>)
       return pArguments[pIndex];
-    else if constexpr (std::is_base_of_v<At, T>)
-      return T{{*pArguments[pIndex].If<Long>()}};
+    else if constexpr (std::is_enum_v<T> || requires(T pNumber) { pNumber.value; })
+      return static_cast<T>(*pArguments[pIndex].If<Long>());
     else
       return *pArguments[pIndex].If<T>();
   }
 };
-template <>
-inline At Argument<At>::From(std::span<Variant> pArguments, std::size_t pIndex) {
-  return {*pArguments[pIndex].If<Long>()};
-}
-template <>
-inline QZVarType Argument<QZVarType>::From(std::span<Variant> pArguments, std::size_t pIndex) {
-  return static_cast<QZVarType>(*pArguments[pIndex].If<Long>());
-}
-template <>
-inline Byte Argument<Byte>::From(std::span<Variant> pArguments, std::size_t pIndex) {
-  return static_cast<Byte>(*pArguments[pIndex].If<std::int16_t>());
-}
 template <class T>
 struct Argument<const T&> : Argument<T> {};
 template <class T>
@@ -122,110 +133,99 @@ struct Argument<Array<T>> {
 };
 template <class T>
 struct Argument<std::optional<T>> : Argument<T> {
+  static constexpr bool kIsOptional = true;
   static std::optional<T> From(std::span<Variant> pArguments, std::size_t pIndex) {
-    if (pIndex >= pArguments.size()) return {};
-    return Argument<T>::From(pArguments, pIndex);
+    return pIndex < pArguments.size() ? std::optional<T>(Argument<T>::From(pArguments, pIndex)) : std::nullopt;
   }
 };
-template <std::derived_from<runtime::Object> M>
-struct Argument<Ref<M>> {
-  static Pair Draw(World& pWorld) { return DrawObject(pWorld, M::kTable()); }
-  static Ref<M> From(std::span<Variant> pArguments, std::size_t pIndex) {
-    return std::static_pointer_cast<M>(*pArguments[pIndex].If<Ref<runtime::Object>>());
-  }
-};
-template <>
-Pair Argument<Ref<runtime::Object>>::Draw(World& pWorld);
 template <std::derived_from<Model> M>
-struct Argument<M*> : Argument<Ref<M>> {
-  static M* From(std::span<Variant> pArguments, std::size_t pIndex) {
-    return Argument<Ref<M>>::From(pArguments, pIndex).get();
+struct Argument<Ref<M>> {
+  static Pair Draw(World& pWorld) { return DrawObject(pWorld, &M::kTable()); }
+  static Ref<M> From(std::span<Variant> pArguments, std::size_t pIndex) {
+    return std::static_pointer_cast<M>(*pArguments[pIndex].If<Something>());
   }
 };
 template <std::derived_from<Model> M>
 struct Argument<M&> : Argument<Ref<M>> {
   static M& From(std::span<Variant> pArguments, std::size_t pIndex) {
-    if (M* object = Argument<M*>::From(pArguments, pIndex)) return *object;
-    Raise(RuntimeError::ObjectNotSet);
+    return The(Argument<Ref<M>>::From(pArguments, pIndex));
   }
 };
 
-template <class T>
-Variant ToVariant(T pValue) {
-  if constexpr (std::is_same_v<T, Byte>)
-    return std::int16_t{pValue};
-  else
-    return pValue;
-}
-
 // ---- Rows.
 
-template <class T>
-inline constexpr bool kIsOptional = false;
-template <class T>
-inline constexpr bool kIsOptional<std::optional<T>> = true;
-
 template <class M, class R, class... A>
-Member Row(CallKind pKind, std::u16string_view pName, R (M::*pCall)(A...)) {
+Member Row(CallKind pKind, const Text& pName, R (M::*pCall)(A...)) {
   const auto call = [pCall]<std::size_t... I>(M & pModel, std::span<Variant> pArguments, std::index_sequence<I...>) {
-    const std::tuple<decltype(Argument<A>::From(pArguments, I))...> arguments{Argument<A>::From(pArguments, I)...};
+    const std::tuple<decltype(Argument<A>::From(pArguments, I))...> all{Argument<A>::From(pArguments, I)...};
     if constexpr (std::is_void_v<R>)
-      return (pModel.*pCall)(std::get<I>(arguments)...), Variant();
+      return (pModel.*pCall)(std::get<I>(all)...), Variant();
     else
-      return ToVariant((pModel.*pCall)(std::get<I>(arguments)...));
+      return Variant((pModel.*pCall)(std::get<I>(all)...));
   };
-  return {pKind,
-          pName,
-          {&Argument<A>::Draw...},
-          (std::size_t{0} + ... + !kIsOptional<A>),
-          [call](Model& pModel, std::span<Variant> pArguments) {
-            return call(static_cast<M&>(pModel), pArguments, std::index_sequence_for<A...>{});
+  const std::size_t required = (std::size_t{0} + ... + !requires { Argument<A>::kIsOptional; });
+  return {pKind, pName, {&Argument<A>::Draw...}, required, [call](Model& pModel, std::span<Variant> pArguments) {
+            return call(static_cast<M&>(pModel), pArguments, std::index_sequence_for<A...>());
           }};
 }
 
-inline Member Gets(std::u16string_view pName, auto pCall) {
-  return Row(CallKind::Get, pName, pCall);
-}
-inline Member Lets(std::u16string_view pName, auto pCall) {
-  return Row(CallKind::Let, pName, pCall);
-}
-inline Member Sets(std::u16string_view pName, auto pCall) {
-  return Row(CallKind::Set, pName, pCall);
-}
-inline Member Does(std::u16string_view pName, auto pCall) {
-  return Row(CallKind::Method, pName, pCall);
-}
-inline Member Shown(Member pMember) {
-  pMember.isShown = true;
-  return pMember;
+// A member's own name: what stands behind the last "::" of "... [with auto kCall = &Vector<double>::Size; ...]".
+template <auto kCall>
+Text NameOf(std::size_t pPrefix) {
+  std::string_view text = __PRETTY_FUNCTION__;
+  text = text.substr(text.find("kCall = "));
+  text = text.substr(0, text.find_first_of(";]"));
+  text = text.substr(text.rfind("::") + 2 + pPrefix);
+  return {text.begin(), text.end()};
 }
 
-// A property that is shown.
-inline std::vector<Member> Both(std::u16string_view pName, auto pGet, auto pLet) {
-  return {Shown(Gets(pName, pGet)), Lets(pName, pLet)};
+template <auto... kCalls>
+Members Calls() {
+  return {Row(CallKind::MethodOrGet, NameOf<kCalls>(0), kCalls)...};
+}
+template <auto... kCalls>
+Members Lets() {
+  return {Row(CallKind::Let, NameOf<kCalls>(3), kCalls)...};
+}
+template <auto... kCalls>
+Members Sets() {
+  return {Row(CallKind::Set, NameOf<kCalls>(3), kCalls)...};
+}
+template <auto... kCalls>
+Members Shown() {
+  Members rows = Calls<kCalls...>();
+  for (Member& each : rows) each.isShown = true;
+  return rows;
+}
+inline Members As(const Text& pName, Members pRows) {
+  for (Member& each : pRows) each.name = pName;
+  return pRows;
+}
+inline Members operator+(Members pLeft, const Members& pRight) {
+  pLeft.insert(pLeft.end(), pRight.begin(), pRight.end());
+  return pLeft;
+}
+// Rows of a part that are those of the whole too.
+template <class Whole, class Part>
+Members Through(Part& (*pPart)(Whole&), std::u16string_view pNames) {
+  Members rows;
+  for (Member each : Part::kTable().members) {
+    if ((u" " + Text(pNames) + u" ").find(u" " + each.name + u" ") == Text::npos) continue;
+    each.call = [pPart, call = each.call](Model& pModel, std::span<Variant> pArguments) {
+      return call(pPart(static_cast<Whole&>(pModel)), pArguments);
+    };
+    rows.push_back(std::move(each));
+  }
+  return rows;
 }
 
-using Members = std::vector<Member>;
-inline Members AllOf(const auto&... pRows) {
-  Members all;
-  const auto add = [&]<class T>(const T& pRow) {
-    if constexpr (std::is_same_v<T, Member>)
-      all.push_back(pRow);
-    else
-      all.insert(all.end(), pRow.begin(), pRow.end());
-  };
-  (add(pRows), ...);
-  return all;
-}
+// ---- What all containers have.
 
-// The records (BufferModel.h): the tag `Self::kTag`, what `Write` writes and `Read` reads, the closing tag.
+// Records (BufferModel.h): the tag `Self::kTag`, what `Write` writes and `Read` reads, the closing tag.
 class Buffer;
-template <class Self>
-void Save(Self& pObject, Buffer* pBuffer, std::optional<bool> pAppend);
-template <class Self>
-void Load(Self& pObject, Buffer* pBuffer, std::optional<bool> pAppend);
+void Save(Buffer* pBuffer, bool pAppend, const Text& pTag, const std::function<void()>& pWrite);
+void Load(Buffer* pBuffer, bool pAppend, const std::function<void(const Text&)>& pRead);
 
-// What every container has.
 template <class Self>
 class ModelOf : public Model {
  public:
@@ -239,48 +239,25 @@ class ModelOf : public Model {
     copy->CopyFrom(Itself());
     return copy;
   }
-  void SaveToBuffer(Buffer* pBuffer, std::optional<bool> pAppend) { Save(Itself(), pBuffer, pAppend); }
-  void LoadFromBuffer(Buffer* pBuffer, std::optional<bool> pAppend) { Load(Itself(), pBuffer, pAppend); }
-  static Members CopyRows() { return {Does(u"CopyFrom", &Self::CopyFrom), Does(u"GetCopy", &Self::GetCopy)}; }
-  static Members SaveRows() {
-    return {Does(u"SaveToBuffer", &Self::SaveToBuffer), Does(u"LoadFromBuffer", &Self::LoadFromBuffer)};
+  void SaveToBuffer(const Ref<Buffer>& pBuffer, std::optional<bool> pAppend) {
+    Save(pBuffer.get(), pAppend.value_or(false), Self::kTag, [&] { Itself().Write(pBuffer); });
   }
-  static Members Family() { return AllOf(CopyRows(), Does(u"IsEqual", &Self::IsEqual), SaveRows()); }
+  void LoadFromBuffer(const Ref<Buffer>& pBuffer, std::optional<bool> pAppend) {
+    Load(pBuffer.get(), pAppend.value_or(false), [&](const Text& pTag) { Itself().Read(pBuffer, pTag); });
+  }
+  static Members Copies() { return Calls<&Self::CopyFrom, &Self::CopyFrom, &Self::GetCopy>(); }
+  static Members Records() { return Calls<&Self::SaveToBuffer, &Self::LoadFromBuffer>(); }
+  static Members Family() { return Copies() + Records() + Calls<&Self::IsEqual, &Self::IsEqual>(); }
 
  private:
   Self& Itself() { return static_cast<Self&>(*this); }
 };
 
-template <class M>
-M& The(const Ref<M>& pObject) {
-  if (!pObject) Raise(RuntimeError::ObjectNotSet);
-  return *pObject;
-}
-
 inline Long Checked(std::int64_t pValue) {
   return runtime::CheckedNarrow<Long>(pValue);
 }
 
-// Of the slots that all models together may have.
-class Share {
- public:
-  Share() = default;
-  Share(const Share& pOther) { Take(pOther.taken_); }
-  Share& operator=(const Share& pOther) {
-    Take(pOther.taken_);
-    return *this;
-  }
-  ~Share() { all_ -= taken_; }
-  void Take(std::int64_t pSlots) {
-    constexpr std::int64_t kMost = 150'000;
-    if (all_ - taken_ + pSlots > kMost) throw TooMuch();
-    all_ += pSlots - std::exchange(taken_, pSlots);
-  }
-
- private:
-  static inline std::int64_t all_ = 0;
-  std::int64_t taken_ = 0;
-};
+inline std::int64_t slotsMade = 0;  // by all models of a sequence
 
 // An array with bounds 1 to `Upper()`, 1 at first.
 template <class T>
@@ -293,7 +270,12 @@ class Slots {
   Long Upper() const { return static_cast<Long>(slots_.size()); }
   void ReDim(std::int64_t pUpper) {  // keeping contents
     if (Checked(pUpper) < 0) Raise(RuntimeError::SubscriptOutOfRange);
-    share_.Take(pUpper * kCost);
+    constexpr Long kCost = requires {
+      typename T::element_type;
+    }
+    ? 500 : 1;  // an object is more than a slot
+    slotsMade += std::max<std::int64_t>(pUpper - Upper(), 0) * kCost;
+    if (slotsMade > 500'000) throw TooMuch();
     slots_.resize(static_cast<std::size_t>(pUpper));
   }
   // Moves the slots from a position to the last but one up by one, the slots behind a position down by one.
@@ -305,60 +287,7 @@ class Slots {
   }
 
  private:
-  static constexpr Long kCost = requires { typename T::element_type; }
-  ? 500 : 1;  // an object is more than a slot
-
-  Share share_;
   std::deque<T> slots_ = std::deque<T>(1);
-};
-
-inline Long Inside(Long pAtPos, Long pSize) {
-  return pAtPos < 1 || pAtPos > pSize ? pSize : pAtPos;
-}
-
-// A list of objects with as many slots as it counts, one at least; slots may hold none.
-template <class Self, class X>
-class ListOf : public ModelOf<Self> {
- public:
-  Long Size() { return size_; }
-  X& Stored(std::int64_t pIndex) { return The(slots_[pIndex]); }
-  Ref<X> Copy(At pIndex) { return Stored(pIndex).GetCopy(); }
-  Ref<X> Reference(At pIndex) { return slots_[pIndex]; }
-  void SetStored(At pIndex, Ref<X> pObject) { slots_[pIndex] = pObject; }
-  void LetStored(At pIndex, X& pObject) { Stored(pIndex).CopyFrom(pObject); }
-
- protected:
-  void Resize(std::int64_t pSize) {
-    size_ = Checked(pSize);
-    slots_.ReDim(std::max(size_, 1));
-  }
-  Long Insert(At pAtPos, Ref<X> pObject) {
-    Resize(std::int64_t{size_} + 1);
-    const Long at = Inside(pAtPos, size_);
-    slots_.Open(at, size_);
-    slots_[at] = pObject;
-    return at;
-  }
-  void Delete(At pIndex) {
-    slots_.Close(pIndex, size_);
-    Resize(std::int64_t{size_} - 1);
-  }
-  bool SameElements(ListOf& pCompare) {
-    if (size_ != pCompare.size_) return false;
-    for (Long i = 1; i <= size_; ++i)
-      if (!Stored(i).IsEqual(pCompare.Stored(i))) return false;
-    return true;
-  }
-  void WriteElements(auto& pBuffer) {
-    pBuffer.AddLong(size_);
-    Each([&](X& pObject) { pObject.SaveToBuffer(&pBuffer, true); });
-  }
-  void Each(auto pBody) {
-    for (Long i = 1; i <= size_; ++i) pBody(Stored(i));
-  }
-
-  Slots<Ref<X>> slots_;
-  Long size_ = 0;
 };
 
 }  // namespace qzbase::models

@@ -20,18 +20,18 @@ class EntryData final : public ListOf<EntryData, VarVector> {
   void LetNrCols(Count pNrCols) { Resize(pNrCols); }
   QZVarType VarType(At pIdx) { return Stored(pIdx).VarType(); }
   void LetVarType(At pIdx, QZVarType pVarType) {
-    if (!slots_[pIdx] || slots_[pIdx]->VarType() != pVarType) slots_[pIdx] = NewColumn(pVarType);
+    if (!slots_[pIdx] || slots_[pIdx]->VarType() != pVarType) slots_[pIdx] = NewColumn(pVarType, nrRows_);
   }
   Ref<VarVector> Col(At pIdx) {
     Stored(pIdx);
     return slots_[pIdx];
   }
-  void SetCol(At pIdx, Ref<VarVector> pCol) {
+  void SetCol(At pIdx, const Ref<VarVector>& pCol) {
     The(pCol);
     slots_[pIdx] = pCol;
   }
-  void InsertCol(QZVarType pVarType, At pPos) { Insert(pPos, NewColumn(pVarType)); }
-  void AddCol(QZVarType pVarType) { InsertCol(pVarType, {0}); }
+  void InsertCol(QZVarType pVarType, At pPos) { Insert(pPos, NewColumn(pVarType, nrRows_)); }
+  void AddCol(QZVarType pVarType) { InsertCol(pVarType, 0); }
   void MoveCol(At pOldPos, At pNewPos) {
     if (pOldPos == pNewPos) return;
     const Ref<VarVector> moved = slots_[pOldPos];
@@ -48,22 +48,22 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     if (pNrRows == nrRows_) return;
     nrRows_ = pNrRows;
     ForEachColumn([&](VarVector& pCol) {
-      pCol.LetSize({{nrRows_}});
-      if (nrRows_ > 0) pCol.LetValue({nrRows_}, InvalidValueOf(pCol.VarType()));
+      pCol.LetSize(nrRows_);
+      if (nrRows_ > 0) pCol.LetValue(nrRows_, InvalidValueOf(pCol.VarType()));
     });
   }
   void InsertRow(At pAtPos) {
     nrRows_ = Checked(std::int64_t{nrRows_} + 1);
     ForEachColumn([&](VarVector& pCol) { pCol.InsertValue(pAtPos, InvalidValueOf(pCol.VarType())); });
   }
-  void AddRow() { InsertRow({0}); }
+  void AddRow() { InsertRow(0); }
   void DeleteRow(At pIdx) {
     if (nrRows_ < 1) return;
     --nrRows_;
     ForEachColumn([&](VarVector& pCol) { pCol.DeleteValue(pIdx); });
   }
   Variant Value(At pColIdx, At pRowIdx) { return Stored(pColIdx).Value(pRowIdx); }
-  void LetValue(At pColIdx, At pRowIdx, Variant pValue) { Stored(pColIdx).LetValue(pRowIdx, pValue); }
+  void LetValue(At pColIdx, At pRowIdx, const Variant& pValue) { Stored(pColIdx).LetValue(pRowIdx, pValue); }
 
   // Changes nothing where it fails: every cell is looked at first.
   void Sort(At pColIdx, bool pAscending) {
@@ -74,33 +74,26 @@ class EntryData final : public ListOf<EntryData, VarVector> {
     std::vector<Long> rows;  // in their new order
     for (Long k = 1; k <= nrRows_; ++k) {
       for (VarVector* each : cols) each->Slot(k);
-      const auto isBehind = [&](Long pRow) {
-        return VarVector::IsBehind(cols[0]->Slot(pRow), cols[0]->Slot(k), pAscending);
-      };
+      const auto isBehind = [&](Long pRow) { return IsBehind(cols[0]->Slot(pRow), cols[0]->Slot(k), pAscending); };
       rows.insert(std::find_if(rows.begin(), rows.end(), isBehind), k);
     }
     for (VarVector* each : cols) {
-      std::vector<Variant> old;
-      for (const Long row : rows) old.push_back(each->Slot(row));
-      for (Long r = 1; r <= nrRows_; ++r) each->Slot(r) = old[static_cast<std::size_t>(r - 1)];
+      std::vector<Variant> sorted;
+      std::transform(rows.begin(), rows.end(), std::back_inserter(sorted), [&](Long pRow) { return each->Slot(pRow); });
+      for (Long r = 1; r <= nrRows_; ++r) each->Slot(r) = sorted[static_cast<std::size_t>(r - 1)];
     }
   }
   void CopyFromValues(Matrix<double>& pSource) {
-    Slots<Ref<VarVector>> cols;
-    cols.ReDim(std::max(pSource.NrCols(), 1));
-    for (Long c = 1; c <= pSource.NrCols(); ++c) {
-      cols[c] = New<VarVector>();
-      cols[c]->LetVarType(EVTDouble);
-      cols[c]->LetSize({{pSource.Size()}});
-      for (Long r = 1; r <= pSource.Size(); ++r) cols[c]->LetValue({r}, pSource.Value({c}, {r}));
-    }
-    Take(pSource.NrCols(), pSource.Size(), cols);
+    Replace(pSource.NrCols(), [&](Long pCol) {
+      Ref<VarVector> col = NewColumn(EVTDouble, pSource.Size());
+      for (Long r = 1; r <= pSource.Size(); ++r) col->LetValue(r, pSource.Value(pCol, r));
+      return col;
+    });
+    nrRows_ = pSource.Size();
   }
   void CopyFrom(EntryData& pSource) {
-    Slots<Ref<VarVector>> cols;
-    cols.ReDim(std::max(pSource.size_, 1));
-    for (Long c = 1; c <= pSource.size_; ++c) cols[c] = pSource.Copy({c});
-    Take(pSource.size_, pSource.nrRows_, cols);
+    Replace(pSource.size_, [&](Long pCol) { return pSource.Copy(pCol); });
+    nrRows_ = pSource.nrRows_;
   }
   bool IsEqual(EntryData& pCompare) {
     if (size_ != pCompare.size_ || nrRows_ != pCompare.nrRows_) return false;
@@ -108,59 +101,50 @@ class EntryData final : public ListOf<EntryData, VarVector> {
       VarVector &left = Stored(c), &right = pCompare.Stored(c);
       if (left.VarType() != right.VarType()) return false;
       for (Long r = 1; r <= nrRows_; ++r)
-        if (!Of<Variant>::Same(left.Slot(r), right.Slot(r))) return false;
+        if (!Same(left.Slot(r), right.Slot(r))) return false;
     }
     return true;
   }
   static constexpr auto kTag = u"EntryData#1";
-  void Write(Buffer& pBuffer) {
-    pBuffer.AddLong(size_);
-    pBuffer.AddLong(nrRows_);
-    for (Long c = 1; c <= size_; ++c) {
-      pBuffer.AddLong(Stored(c).VarType());
-      slots_[c]->SaveToBuffer(&pBuffer, true);
-    }
+  void Write(const Ref<Buffer>& pBuffer) {
+    pBuffer->AddLong(size_);
+    pBuffer->AddLong(nrRows_);
+    this->Each([&](VarVector& pCol) {
+      pBuffer->AddLong(pCol.VarType());
+      pCol.SaveToBuffer(pBuffer, true);
+    });
   }
-  void Read(Buffer& pBuffer) {
-    size_ = pBuffer.NextCount(8);
-    nrRows_ = pBuffer.NextLong();
+  void Read(const Ref<Buffer>& pBuffer, const Text&) {
+    size_ = pBuffer->NextCount(8);
+    nrRows_ = pBuffer->NextLong();
     slots_ = {};
     Resize(size_);
     for (Long c = 1; c <= size_; ++c) {
-      auto col = New<VarVector>();
-      col->LetVarType(static_cast<QZVarType>(pBuffer.NextLong()));
-      slots_[c] = col;
-      col->LoadFromBuffer(&pBuffer, true);
+      slots_[c] = NewColumn(static_cast<QZVarType>(pBuffer->NextLong()), 0);
+      slots_[c]->LoadFromBuffer(pBuffer, true);
     }
   }
 
   static Members Rows() {
     using D = EntryData;
-    return AllOf(Does(u"Clear", &D::Clear), Both(u"NrCols", &D::Size, &D::LetNrCols),
-                 Both(u"VarType", &D::VarType, &D::LetVarType), Shown(Gets(u"Col", &D::Col)), Gets(u"Col", &D::Col),
-                 Sets(u"Col", &D::SetCol), Lets(u"Col", &D::LetStored), Does(u"InsertCol", &D::InsertCol),
-                 Does(u"AddCol", &D::AddCol), Does(u"AddCol", &D::AddCol), Does(u"MoveCol", &D::MoveCol),
-                 Does(u"DeleteCol", &D::DeleteCol), Both(u"NrRows", &D::NrRows, &D::LetNrRows),
-                 Does(u"InsertRow", &D::InsertRow), Does(u"AddRow", &D::AddRow), Does(u"DeleteRow", &D::DeleteRow),
-                 Both(u"Value", &D::Value, &D::LetValue), Lets(u"Value", &D::LetValue), Does(u"Sort", &D::Sort),
-                 Does(u"Sort", &D::Sort), Does(u"CopyFromValues", &D::CopyFromValues), Family());
+    return As(u"NrCols", Shown<&D::Size>()) + Shown<&D::VarType, &D::Col, &D::NrRows>() +
+           As(u"Col", Lets<&D::LetStored>()) + Sets<&D::SetCol>() +
+           Lets<&D::LetNrCols, &D::LetVarType, &D::LetNrRows, &D::LetNrRows, &D::LetValue, &D::LetValue>() +
+           Calls<&D::Clear, &D::Col, &D::InsertCol, &D::AddCol, &D::AddCol, &D::MoveCol, &D::DeleteCol, &D::InsertRow,
+                 &D::AddRow, &D::DeleteRow, &D::Value, &D::Sort, &D::Sort, &D::CopyFromValues>() +
+           Family();
   }
 
  private:
-  Ref<VarVector> NewColumn(QZVarType pVarType) {
+  static Ref<VarVector> NewColumn(QZVarType pVarType, Long pNrRows) {
     auto col = New<VarVector>();
     col->LetVarType(pVarType);
-    col->LetSize({{nrRows_}});
+    col->LetSize(pNrRows);
     return col;
   }
   void ForEachColumn(auto pBody) {
     for (Long c = 1; c <= size_; ++c)
       if (slots_[c]) pBody(*slots_[c]);
-  }
-  void Take(Long pNrCols, Long pNrRows, const Slots<Ref<VarVector>>& pCols) {
-    size_ = pNrCols;
-    nrRows_ = pNrRows;
-    slots_ = pCols;
   }
 
   Long nrRows_ = 0;
@@ -171,9 +155,9 @@ class DescTable final : public ModelOf<DescTable> {
   static constexpr std::u16string_view kName = u"CTable";
 
   Text ID() { return id_; }
-  void LetID(Text pID) { id_ = pID; }
+  void LetID(const Text& pID) { id_ = pID; }
   void Clear() {
-    descs_->LetSize({{0}});
+    descs_->LetSize(0);
     data_->Clear();
   }
   Long NrCols() { return descs_->Size(); }
@@ -183,7 +167,7 @@ class DescTable final : public ModelOf<DescTable> {
   }
   Ref<EntryDesc> ColDesc(At pColIdx) { return descs_->Copy(pColIdx); }
   // The descriptor is checked first; its copy gets the dimension, so that the stored one keeps its own.
-  void SetColDesc(At pColIdx, Ref<EntryDesc> pDesc) {
+  void SetColDesc(At pColIdx, const Ref<EntryDesc>& pDesc) {
     The(pDesc).GetCopy();
     descs_->SetStored(pColIdx, pDesc);
     data_->LetVarType(pColIdx, pDesc->VarType());
@@ -194,10 +178,10 @@ class DescTable final : public ModelOf<DescTable> {
     data_->LetVarType(pColIdx, descs_->Stored(pColIdx).VarType());
   }
   Ref<EntryDesc> ColDescRef(At pColIdx) { return descs_->Reference(pColIdx); }
-  void AddCol(Ref<EntryDesc> pDesc) {
+  void AddCol(const Ref<EntryDesc>& pDesc) {
     The(pDesc).GetCopy();
-    LetNrCols({{Checked(std::int64_t{NrCols()} + 1)}});
-    SetColDesc({NrCols()}, pDesc);
+    LetNrCols(Checked(std::int64_t{NrCols()} + 1));
+    SetColDesc(NrCols(), pDesc);
   }
   void InsertCol(EntryDesc& pDesc, At pAtPos) {
     pDesc.Var()[VarDesc::kNrDims] = 1;
@@ -214,36 +198,28 @@ class DescTable final : public ModelOf<DescTable> {
     descs_->DeleteDesc(pAtPos);
     data_->DeleteCol(pAtPos);
   }
-  Long ColIndex(Text pID) { return descs_->Index(pID); }
+  Long ColIndex(const Text& pID) { return descs_->Index(pID); }
   Ref<VarVector> ColRef(At pIndex) { return data_->Col(pIndex); }
-  Long NrRows() { return data_->NrRows(); }
-  void LetNrRows(Count pNrRows) { data_->LetNrRows(pNrRows); }
-  void AddRow() { data_->AddRow(); }
-  void InsertRow(At pAtPos) { data_->InsertRow(pAtPos); }
-  void DeleteRow(At pAtPos) { data_->DeleteRow(pAtPos); }
-  Ref<TypedInfo> RowInfo(At pRowIdx) {
+  Ref<TypedInfo> Row(At pRowIdx) {
     auto info = New<TypedInfo>();
-    info->LetNrInfos({{NrCols()}});
+    info->LetNrInfos(NrCols());
     for (Long i = 1; i <= NrCols(); ++i) {
-      info->LetDesc({i}, descs_->Stored(i));
-      info->LetValue({i}, data_->Value({i}, pRowIdx));
+      info->LetDesc(i, descs_->Stored(i));
+      info->LetValue(i, data_->Value(i, pRowIdx));
     }
     return info;
   }
   Ref<EntryDescs> DescsRef() { return descs_; }
   Ref<EntryData> DataRef() { return data_; }
-  Variant Value(At pColIdx, At pRowIdx) { return data_->Value(pColIdx, pRowIdx); }
-  void LetValue(At pColIdx, At pRowIdx, Variant pValue) { data_->LetValue(pColIdx, pRowIdx, pValue); }
   void InverseRowOrder() {}
   void Sort(At pCol, std::optional<bool> pAscending) { data_->Sort(pCol, pAscending.value_or(true)); }
   Text GetString() {
-    if (NrRows() > 1000) throw TooMuch();
+    if (data_->NrRows() > 1000) throw TooMuch();
     Text text;
-    for (Long c = 1; c <= NrCols(); ++c) text += descs_->Stored(c).ID() + u";";
-    text += u"\n";
-    for (Long r = 1; r <= NrRows(); ++r) {
+    for (Long r = 0; r == 0 || r <= data_->NrRows(); ++r) {  // below the heads
       for (Long c = 1; c <= NrCols(); ++c) {
-        text += Cell(data_->Value({c}, {r}), descs_->Stored(c).Var()) + u";";
+        EntryDesc& desc = descs_->Stored(c);
+        text += (r == 0 ? desc.ID() : Cell(data_->Value(c, r), desc.Var())) + u";";
       }
       text += u"\n";
     }
@@ -264,17 +240,17 @@ class DescTable final : public ModelOf<DescTable> {
   }
   void SetupFrom(EntryDescs& pDesc) {
     descs_->CopyFrom(pDesc);
-    data_->LetNrCols({{NrCols()}});
-    data_->LetNrRows({{0}});
-    for (Long i = 1; i <= NrCols(); ++i) data_->LetVarType({i}, descs_->Stored(i).VarType());
+    data_->LetNrCols(NrCols());
+    data_->LetNrRows(0);
+    for (Long i = 1; i <= NrCols(); ++i) data_->LetVarType(i, descs_->Stored(i).VarType());
   }
   void CopyFromInfo(TypedInfo& pInfo) {
     descs_->CopyFrom(*pInfo.DescsRef());
-    data_->LetNrCols({{pInfo.NrInfos()}});
-    data_->LetNrRows({{1}});
+    data_->LetNrCols(pInfo.NrInfos());
+    data_->LetNrRows(1);
     for (Long i = 1; i <= NrCols(); ++i) {
-      data_->LetVarType({i}, pInfo.DescsRef()->Stored(i).VarType());
-      data_->LetValue({i}, {1}, pInfo.Value({i}));
+      data_->LetVarType(i, pInfo.DescsRef()->Stored(i).VarType());
+      data_->LetValue(i, 1, pInfo.Value(i));
     }
   }
   void CopyFrom(DescTable& pSource) {
@@ -287,30 +263,27 @@ class DescTable final : public ModelOf<DescTable> {
            data_->IsEqual(*pCompare.data_);
   }
   static constexpr auto kTag = u"Table#1";
-  void Write(Buffer& pBuffer) {
-    pBuffer.AddString(id_);
-    descs_->SaveToBuffer(&pBuffer, true);
-    data_->SaveToBuffer(&pBuffer, true);
+  void Write(const Ref<Buffer>& pBuffer) {
+    pBuffer->AddString(id_);
+    descs_->SaveToBuffer(pBuffer, true);
+    data_->SaveToBuffer(pBuffer, true);
   }
-  void Read(Buffer& pBuffer) {
-    id_ = pBuffer.NextString();
-    descs_->LoadFromBuffer(&pBuffer, true);
-    data_->LoadFromBuffer(&pBuffer, true);
+  void Read(const Ref<Buffer>& pBuffer, const Text&) {
+    id_ = pBuffer->NextString();
+    descs_->LoadFromBuffer(pBuffer, true);
+    data_->LoadFromBuffer(pBuffer, true);
   }
 
   static Members Rows() {
     using T = DescTable;
-    return AllOf(
-        Both(u"ID", &T::ID, &T::LetID), Does(u"Clear", &T::Clear), Both(u"NrCols", &T::NrCols, &T::LetNrCols),
-        Gets(u"ColDesc", &T::ColDesc), Sets(u"ColDesc", &T::SetColDesc), Lets(u"ColDesc", &T::LetColDesc),
-        Gets(u"ColDescRef", &T::ColDescRef), Does(u"AddCol", &T::AddCol), Does(u"AddCol", &T::AddCol),
-        Does(u"InsertCol", &T::InsertCol), Does(u"InsertCol", &T::InsertCol), Does(u"MoveCol", &T::MoveCol),
-        Does(u"DeleteCol", &T::DeleteCol), Does(u"ColIndex", &T::ColIndex), Does(u"ColRef", &T::ColRef),
-        Both(u"NrRows", &T::NrRows, &T::LetNrRows), Does(u"AddRow", &T::AddRow), Does(u"InsertRow", &T::InsertRow),
-        Does(u"DeleteRow", &T::DeleteRow), Does(u"Row", &T::RowInfo), Shown(Gets(u"DescsRef", &T::DescsRef)),
-        Shown(Gets(u"DataRef", &T::DataRef)), Both(u"Value", &T::Value, &T::LetValue), Lets(u"Value", &T::LetValue),
-        Does(u"InverseRowOrder", &T::InverseRowOrder), Does(u"Sort", &T::Sort), Does(u"GetString", &T::GetString),
-        Does(u"SetupFrom", &T::SetupFrom), Does(u"CopyFromInfo", &T::CopyFromInfo), Family());
+    return Shown<&T::ID, &T::NrCols, &T::DescsRef, &T::DataRef>() + Lets<&T::LetID, &T::LetNrCols, &T::LetColDesc>() +
+           Sets<&T::SetColDesc>() +
+           Calls<&T::Clear, &T::ColDesc, &T::ColDescRef, &T::AddCol, &T::AddCol, &T::InsertCol, &T::InsertCol,
+                 &T::MoveCol, &T::DeleteCol, &T::ColIndex, &T::ColRef, &T::Row, &T::InverseRowOrder, &T::Sort,
+                 &T::GetString, &T::SetupFrom, &T::CopyFromInfo>() +
+           Through<T, EntryData>([](T& pTable) -> EntryData& { return *pTable.data_; },
+                                 u"NrRows AddRow InsertRow DeleteRow Value") +
+           Family();
   }
 
  private:

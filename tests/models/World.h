@@ -16,27 +16,23 @@ namespace qzbase::models {
 
 class World {
  public:
-  // One object for each class given; a class may come several times. The first ones are called more often. `pTells`
-  // keeps a text of the calls.
+  // One object for each class given; a class may come several times. The first ones are called more often.
   World(std::span<const Class* const> pClasses, bool pTells);
 
   // Calls a member. False where the sequence ends.
   bool Step(std::uint64_t pChoices);
   void CompareAll();
 
-  // Empty as long as library and models agree.
-  const std::string& Difference() const { return difference_; }
-  const std::string& Calls() const { return calls_; }
+  std::string difference;  // empty as long as library and models agree
+  std::string calls;       // where they are to be told
 
   Pair Object(std::size_t pEntry) const;
+  std::vector<std::size_t> Find(const Class* pClass) const;
   Long Choose(std::size_t pCount);  // from 0 on
-  const Class& AnyLeaf();           // a class whose objects hold no others
-  Pair Any(const Class& pClass);
-  Variant& Keep(Variant pValue) { return kept_ = std::move(pValue); }
 
  private:
   struct Entry {
-    Ref<runtime::Object> library;
+    Something library;
     Ref<Model> model;
   };
   struct Outcome {
@@ -45,24 +41,21 @@ class World {
   };
 
   Outcome Call(runtime::Object& pObject, const Member& pMember, std::vector<Variant> pArguments);
-  bool Same(const Variant& pLibrary, const Variant& pModel, const std::string& pPath);
-  bool SameObject(const Ref<runtime::Object>& pLibrary, const Ref<runtime::Object>& pModel, const std::string& pPath);
-  bool SameOutcome(const Outcome& pLibrary, const Outcome& pModel, const std::string& pPath);
+  bool SameObject(const Something& pLibrary, const Something& pModel, const std::string& pPath);
+  bool Same(const Outcome& pLibrary, const Outcome& pModel, const std::string& pPath);
   bool SameSlots(runtime::Object& pLibrary, Model& pModel, const Member& pMember, const std::string& pPath);
-  void Tell(const Ref<runtime::Object>& pObject, const Member& pMember, const std::vector<Variant>& pArguments);
   void Put(const Variant& pLibrary, const Variant& pModel);
+  bool Differs(const std::string& pHow);
   std::string Show(const Variant& pValue) const;
 
   std::vector<Entry> entries_;
   std::map<const runtime::Object*, const runtime::Object*> twins_;  // both ways
   std::uint64_t choices_ = 0;
   bool tells_;
-  std::string difference_, calls_;
-  Variant kept_;
 };
 
-// The difference that a sequence shows, "" if none.
-std::string Run(std::span<const Class* const> pClasses, std::span<const std::uint64_t> pSequence);
+// The difference that a sequence shows, "" if none; with the calls, which takes longer.
+std::string Run(std::span<const Class* const> pClasses, std::span<const std::uint64_t> pSequence, bool pTells = false);
 
 // Runs random sequences until the seconds are over; the first difference, by the shortest sequence that still shows it,
 // with its calls and its numbers.

@@ -29,6 +29,9 @@ class Registry : public testing::Test {
   Ref<CBuffer> Buffer(const char16_t* pKey) const {
     return GCRegistry::REGGetBuffer(HKEY_CURRENT_USER, section_, pKey);
   }
+  std::int32_t Save(const char16_t* pKey, const CBuffer& pBuffer) const {
+    return GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, section_, pKey, pBuffer);
+  }
   std::int32_t Delete(const char16_t* pKey) const {
     return ErrorOf([&] { GCRegistry::REGDeleteValue(HKEY_CURRENT_USER, section_, pKey); });
   }
@@ -55,9 +58,7 @@ TEST_F(Registry, KeepsNumbersAndTexts) {
   } rows[] = {
       {std::int16_t{-2}, "4: FE FF FF FF", "I4:-2"},
       {258, "4: 02 01 00 00", "I4:258"},
-      {u"abc", "1: 61 62 63 00", "BSTR:abc"},
       {std::u16string_view(u"abc\0", 4), "1: 61 62 63 00", "BSTR:abc"},
-      {u"a", "1: 61 00", "BSTR:a"},
       {u"", "1: ", "BSTR:"},
       {u"a\u4E2Db", "1: 61 3F 62 00", "BSTR:a?b"},
       {1.5, "result 2", "EMPTY"},
@@ -81,11 +82,11 @@ TEST_F(Registry, KeepsNumbersAndTexts) {
 
 TEST_F(Registry, KeepsBuffers) {
   CBuffer buffer;
-  EXPECT_EQ(GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, section_, u"Empty", buffer), 0);
+  EXPECT_EQ(Save(u"Empty", buffer), 0);
   EXPECT_EQ(Stored("Empty"), "3: 03 26 A6 15 AB 01");
   EXPECT_EQ(Buffer(u"Empty")->Size(), 6);
-  for (int i = 0; i < 10'000; ++i) buffer.AddLong(i);
-  EXPECT_EQ(GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, section_, u"Full", buffer), 0);
+  buffer.AddData({0, Bytes(50'000)});
+  EXPECT_EQ(Save(u"Full", buffer), 0);
   EXPECT_TRUE(Buffer(u"full")->BinaryEqual(buffer));
   Store("Old", RegistryKind::Binary, "03 26 A6 15 AB 00 07 00 00 00");
   EXPECT_EQ(Buffer(u"Old")->Size(), 10);

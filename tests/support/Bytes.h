@@ -33,9 +33,10 @@ inline std::string ToHex(const Bytes& pBytes) {
 }
 
 // A byte array as `LetByteArray` wants it: the data and one byte behind them.
-inline runtime::Array<std::uint8_t> Storage(Bytes pData) {
-  pData.push_back(0);
-  return {0, std::move(pData)};
+runtime::Array<std::uint8_t> Storage(const auto& pData) {
+  Bytes bytes(pData.begin(), pData.end());
+  bytes.push_back(0);
+  return {0, std::move(bytes)};
 }
 
 }  // namespace qzbase::tests

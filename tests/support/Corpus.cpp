@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -43,41 +43,29 @@ std::vector<std::string> SplitFields(const std::string& pLine) {
 os::LocaleRules ReadLocale(std::string_view pName) {
   std::map<std::string, std::u16string> item;
   for (const CorpusRow& row : Corpus("locale_data.tsv")) item[row["item"]] = row.Text(pName);
-  const auto number = [&](const char* pItem) { return std::atoi(ToUtf8(item[pItem]).c_str()); };
-
   os::LocaleRules rules;
   rules.name = FromUtf8(pName);
-  rules.decimal = item["decimal"];
-  rules.thousands = item["thousand"];
-  rules.decimals = number("idigits");
-  rules.leadingZero = number("ilzero") != 0;
-  rules.negativeNumber = number("inegnumber");
-  rules.positiveSign = item["poss"];
-  rules.negativeSign = item["negsign"];
-  rules.listSeparator = item["list"];
-  rules.currency = item["currency"];
-  rules.monetaryDecimal = item["mondec"];
-  rules.monetaryThousands = item["monthou"];
-  rules.monetaryDecimals = number("icurrdigits");
-  rules.positiveCurrency = number("icurrency");
-  rules.negativeCurrency = number("inegcurr");
-  rules.dateSeparator = item["date"];
-  rules.timeSeparator = item["time"];
-  rules.shortDate = item["shortdate"];
-  rules.longDate = item["longdate"];
-  rules.longTime = item["timefmt"];
-  rules.shortTime = item["shorttime"];
-  rules.am = item["am"];
-  rules.pm = item["pm"];
-  rules.firstDayOfWeek = number("firstday");
-  rules.firstWeekOfYear = number("firstweek");
-  const auto names = [&](const char* pPrefix, auto& pNames) {
+  rules.leadingZero = item["ilzero"] != u"0";
+  // The names of the items, and what takes each of them.
+  std::istringstream names(
+      "decimal thousand poss negsign list currency mondec monthou date time shortdate longdate timefmt shorttime am pm "
+      "idigits inegnumber icurrdigits icurrency inegcurr firstday firstweek");
+  const auto next = [&] { return item[*std::istream_iterator<std::string>(names)]; };
+  for (std::u16string* each :
+       {&rules.decimal, &rules.thousands, &rules.positiveSign, &rules.negativeSign, &rules.listSeparator,
+        &rules.currency, &rules.monetaryDecimal, &rules.monetaryThousands, &rules.dateSeparator, &rules.timeSeparator,
+        &rules.shortDate, &rules.longDate, &rules.longTime, &rules.shortTime, &rules.am, &rules.pm})
+    *each = next();
+  for (std::int32_t* each : {&rules.decimals, &rules.negativeNumber, &rules.monetaryDecimals, &rules.positiveCurrency,
+                             &rules.negativeCurrency, &rules.firstDayOfWeek, &rules.firstWeekOfYear})
+    *each = std::stoi(ToUtf8(next()));
+  const auto numbered = [&](const char* pPrefix, auto& pNames) {
     for (std::size_t i = 0; i < pNames.size(); ++i) pNames[i] = item[pPrefix + std::to_string(i + 1)];
   };
-  names("day", rules.days);
-  names("aday", rules.shortDays);
-  names("month", rules.months);
-  names("amonth", rules.shortMonths);
+  numbered("day", rules.days);
+  numbered("aday", rules.shortDays);
+  numbered("month", rules.months);
+  numbered("amonth", rules.shortMonths);
   return rules;
 }
 
@@ -91,23 +79,15 @@ const std::string& CorpusRow::operator[](std::string_view pColumn) const {
   return index < fields_.size() ? fields_[index] : empty;
 }
 
-std::uint64_t CorpusRow::Hex(std::string_view pColumn) const {
-  const std::string& digits = (*this)[pColumn];
-  std::uint64_t value = 0;
-  if (std::from_chars(digits.data(), digits.data() + digits.size(), value, 16).ec != std::errc())
-    Fail("no hexadecimal number", digits);
-  return value;
-}
-
 double CorpusRow::DoubleFromBits(std::string_view pColumn) const {
-  return std::bit_cast<double>(Hex(pColumn));
+  return std::bit_cast<double>(std::uint64_t{std::stoull((*this)[pColumn], nullptr, 16)});
 }
 
 bool CorpusRow::IsSettled() const {
-  if ((*this)["doubt"].empty()) return true;
-  for (const char* column : {"documented", "documented_iso"})
-    if (std::find(header_->begin(), header_->end(), column) != header_->end() && !(*this)[column].empty()) return true;
-  return false;
+  const auto isFilled = [&](const char* pColumn) {
+    return std::find(header_->begin(), header_->end(), pColumn) != header_->end() && !(*this)[pColumn].empty();
+  };
+  return (*this)["doubt"].empty() || isFilled("documented") || isFilled("documented_iso");
 }
 
 std::string CorpusRow::Expected(std::string_view pColumn) const {

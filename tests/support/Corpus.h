@@ -31,7 +31,6 @@ class CorpusRow {
   // run.
   const std::string& operator[](std::string_view pColumn) const;
   std::u16string Text(std::string_view pColumn) const { return FromUtf8((*this)[pColumn]); }
-  std::uint64_t Hex(std::string_view pColumn) const;      // hexadecimal digits
   double DoubleFromBits(std::string_view pColumn) const;  // 16 hexadecimal digits of an IEEE double
   std::string Shown() const;                              // as failures name it
 

@@ -12,7 +12,6 @@ namespace {
 
 using runtime::Date;
 using runtime::Variant;
-using runtime::VariantKind;
 
 template <class T>
 T Digits(std::string_view pText, int pBase) {
@@ -49,31 +48,14 @@ std::optional<Variant> ParseCorpusValue(std::string_view pText) {
 }
 
 std::string CorpusValueText(const Variant& pValue) {
-  switch (pValue.Kind()) {
-    case VariantKind::Empty:
-      return "EMPTY";
-    case VariantKind::Null:
-      return "NULL";
-    case VariantKind::Integer:
-      return "I2:" + std::to_string(*pValue.If<std::int16_t>());
-    case VariantKind::Long:
-      return "I4:" + std::to_string(*pValue.If<std::int32_t>());
-    case VariantKind::Single:
-      return HexText("R4", std::bit_cast<std::uint32_t>(*pValue.If<float>()));
-    case VariantKind::Double:
-      return HexText("R8", std::bit_cast<std::uint64_t>(*pValue.If<double>()));
-    case VariantKind::Date:
-      return HexText("DATE", std::bit_cast<std::uint64_t>(pValue.If<Date>()->days));
-    case VariantKind::String:
-      return "BSTR:" + os::ToUtf8(*pValue.If<std::u16string>());
-    case VariantKind::Boolean:
-      return *pValue.If<bool>() ? "BOOL:-1" : "BOOL:0";
-    case VariantKind::Object:
-      return "OBJECT";
-    case VariantKind::Array:
-      return "ARRAY";
-  }
-  return "?";
+  if (const auto* integer = pValue.If<std::int16_t>()) return "I2:" + std::to_string(*integer);
+  if (const auto* number = pValue.If<std::int32_t>()) return "I4:" + std::to_string(*number);
+  if (const auto* single = pValue.If<float>()) return HexText("R4", std::bit_cast<std::uint32_t>(*single));
+  if (const auto* number = pValue.If<double>()) return HexText("R8", std::bit_cast<std::uint64_t>(*number));
+  if (const auto* date = pValue.If<Date>()) return HexText("DATE", std::bit_cast<std::uint64_t>(date->days));
+  if (const auto* text = pValue.If<std::u16string>()) return "BSTR:" + os::ToUtf8(*text);
+  if (const auto* flag = pValue.If<bool>()) return *flag ? "BOOL:-1" : "BOOL:0";
+  return pValue.IsEmpty() ? "EMPTY" : pValue.IsNull() ? "NULL" : pValue.IfArray() ? "ARRAY" : "OBJECT";
 }
 
 }  // namespace qzbase::tests

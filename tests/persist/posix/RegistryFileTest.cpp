@@ -37,6 +37,14 @@ std::int32_t Delete(std::int32_t pRoot) {
   return ErrorOf([&] { GCRegistry::REGDeleteValue(TRegKey(pRoot), u"Software\\App", u"Key"); });
 }
 
+// A buffer of several pages that says its number throughout.
+Ref<CBuffer> Filled(std::int32_t pNumber) {
+  auto buffer = New<CBuffer>();
+  buffer->AddLong(pNumber);
+  if (pNumber > 0) buffer->AddData({0, std::vector<std::uint8_t>(10'000, static_cast<std::uint8_t>(pNumber))});
+  return buffer;
+}
+
 class RegistryFile : public testing::Test {
  protected:
   const ScratchStore store_;
@@ -64,9 +72,7 @@ TEST_F(RegistryFile, IsLeftAsItIsWhenDamaged) {
     std::ifstream file(userFile_, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), {});
   };
-  CBuffer buffer;
-  for (int i = 0; i < 10'000; ++i) buffer.AddLong(i);
-  GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, u"Software\\App", u"Buffer", buffer);
+  GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, u"Software\\App", u"Buffer", *Filled(1));
   Save(HKEY_CURRENT_USER, u"Key", 1);
   const std::string whole = read();
   const std::string damaged[] = {"no database", whole.substr(0, whole.size() / 2), "x" + whole,
@@ -95,36 +101,28 @@ TEST_F(RegistryFile, IsReadWithoutTheRightToWrite) {
   fs::permissions(machineFile_.parent_path(), fs::perms(0755));
 }
 
-// A buffer of several pages that says its number throughout, and the number of one that is whole.
-CBuffer& Fill(CBuffer& pBuffer, std::int32_t pNumber) {
-  pBuffer.AddLong(pNumber);
-  pBuffer.AddData({0, std::vector<std::uint8_t>(10'000, static_cast<std::uint8_t>(pNumber))});
-  return pBuffer;
-}
+// A key for each of four numbers in turn.
 std::u16string KeyOf(std::int32_t pNumber) {
-  return u"Key" + std::u16string(1, static_cast<char16_t>(u'0' + pNumber % 4));
+  return {u'K', static_cast<char16_t>(u'0' + pNumber % 4)};
 }
+// The number of the buffer that is stored, -1 where it is not whole.
 std::int32_t NumberIn(std::u16string_view pKey) {
   const Ref<CBuffer> buffer = GCRegistry::REGGetBuffer(HKEY_CURRENT_USER, u"App", pKey);
   const std::int32_t number = buffer->NextLong();
-  CBuffer whole;
-  const bool isWhole = buffer->Size() == whole.Size() || buffer->BinaryEqual(Fill(whole, number));
-  return isWhole ? number : -1;
+  return number == 0 || buffer->BinaryEqual(*Filled(number)) ? number : -1;
 }
 
 // What the writer tells of itself until it is killed.
 struct Progress {
   std::atomic<std::int32_t> written{0};  // the last number whose write has returned
-  std::atomic<std::int32_t> begun{0};    // the number being written
+  std::atomic<bool> hasBegun{false};
 };
 
 [[noreturn]] void WriteOn(Progress& pProgress) noexcept {
-  for (;;) {
+  for (;; ++pProgress.written) {
+    pProgress.hasBegun = true;
     const std::int32_t number = pProgress.written + 1;
-    pProgress.begun = number;
-    CBuffer buffer;
-    GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, u"App", KeyOf(number), Fill(buffer, number));
-    pProgress.written = number;
+    GCRegistry::REGSaveBuffer(HKEY_CURRENT_USER, u"App", KeyOf(number), *Filled(number));
   }
 }
 
@@ -134,11 +132,11 @@ TEST_F(RegistryFile, LosesAndTearsNothingWhenItsWriterIsKilled) {
   auto& progress = *new (shared) Progress();
   std::uint32_t chance = 1;
   for (int round = 0; round < 200; ++round) {
-    progress.begun = 0;
+    progress.hasBegun = false;
     const pid_t child = fork();
     ASSERT_GE(child, 0);
     if (child == 0) WriteOn(progress);
-    while (progress.begun == 0) std::this_thread::yield();
+    while (!progress.hasBegun) std::this_thread::yield();
     chance = chance * 1'664'525u + 1'013'904'223u;
     usleep(chance >> 21);  // up to 2 ms, in which there are a few writes
     kill(child, SIGKILL);
