@@ -27,7 +27,7 @@ TEST_P(Models, AgreeWithTheLibrary) {
   for (const char* name : {"en-US", "de-DE"}) {
     const runtime::ScopedLocale locale(tests::TestLocale(name));
     const std::string difference = numbers ? models::Run(GetParam(), sequence, true)
-                                           : RunRandomly(GetParam(), seed, seconds ? std::atof(seconds) : 0.5);
+                                           : RunRandomly(GetParam(), seed, seconds ? std::atof(seconds) : 0.3);
     EXPECT_TRUE(difference.empty()) << name << "\n" << difference;
   }
 }

@@ -25,4 +25,21 @@ class ScopedMemoryLimit {
   ScopedMemoryLimit& operator=(const ScopedMemoryLimit&) = delete;
 };
 
+// While it lives, the allocation of that number on its thread fails, counted from 1. The text of `std::bad_alloc` and
+// the exception itself need none.
+class ScopedAllocationFailure {
+ public:
+  explicit ScopedAllocationFailure(std::size_t pAt) noexcept;
+  ~ScopedAllocationFailure();
+  ScopedAllocationFailure(const ScopedAllocationFailure&) = delete;
+  ScopedAllocationFailure& operator=(const ScopedAllocationFailure&) = delete;
+  bool HasFailed() const noexcept;
+};
+
+// For allocators of others that are to fail alike: whether this allocation does.
+bool FailsNow() noexcept;
+
+// Blocks of operator new that have not been given back, on all threads.
+std::ptrdiff_t BlocksAlive() noexcept;
+
 }  // namespace qzbase::tests
