@@ -146,9 +146,9 @@ Bytes Saved(Layout& pLayout) {
 }
 
 template <class Layout>
-void Load(Layout& pLayout, Bytes pBytes) {
+void Load(Layout& pLayout, const Bytes& pBytes) {
   CBuffer buffer;
-  buffer.LetByteArray(Storage(std::move(pBytes)));
+  buffer.LetByteArray(Storage(pBytes));
   pLayout.LoadFromBuffer(&buffer);
 }
 
