@@ -4,6 +4,7 @@
 // a default).
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -17,14 +18,15 @@ template <class Value>
 class ArgumentList {
  public:
   ArgumentList(const MemberTable& pTable, const MemberDesc& pRow) : parameters_(pTable.Parameters(pRow)) {
-    list_.fill(nullptr);
+    std::fill_n(list_.begin(), parameters_.size(), nullptr);
   }
 
   // By position; null for one that is left out.
   void Place(std::size_t pAt, Value* pValue) {
-    if (pAt >= parameters_.size() || isPlaced_[pAt]) runtime::Raise(runtime::RuntimeError::WrongNumberOfArguments);
+    if (pAt >= parameters_.size() || (placed_ >> pAt & 1U) != 0)
+      runtime::Raise(runtime::RuntimeError::WrongNumberOfArguments);
     list_[pAt] = pValue;
-    isPlaced_[pAt] = true;
+    placed_ |= 1U << pAt;
   }
   void PlaceLast(Value* pValue) { Place(parameters_.size() - 1, pValue); }
   // By the position that a name stands for.
@@ -43,7 +45,8 @@ class ArgumentList {
  private:
   std::span<const ParameterDesc> parameters_;
   std::array<Value*, kMaxParameters> list_;
-  std::array<bool, kMaxParameters> isPlaced_{};
+  std::uint32_t placed_ = 0;  // a bit each
+  static_assert(kMaxParameters <= 32);
 };
 
 }  // namespace qzbase::automation

@@ -16,23 +16,26 @@ constexpr char16_t FoldCase(char16_t pCharacter) noexcept {
   return pCharacter >= u'A' && pCharacter <= u'Z' ? static_cast<char16_t>(pCharacter + (u'a' - u'A')) : pCharacter;
 }
 
-// Either name may be of 8-bit or of 16-bit characters.
+// Either name may be of 8-bit or of 16-bit characters. Most callers write a name as it is: all differences are gathered
+// first, and only where they are in case alone the letters are looked at.
 template <class Left, class Right>
 constexpr bool EqualNames(std::basic_string_view<Left> pLeft, std::basic_string_view<Right> pRight) noexcept {
   if (pLeft.size() != pRight.size()) return false;
-  for (std::size_t i = 0; i < pLeft.size(); ++i) {
-    const auto left = static_cast<char16_t>(pLeft[i]);
-    const auto right = static_cast<char16_t>(pRight[i]);
-    if (left != right && FoldCase(left) != FoldCase(right)) return false;
-  }
+  constexpr int kCaseBit = u'a' ^ u'A';
+  int differences = 0;
+  for (std::size_t i = 0; i < pLeft.size(); ++i) differences |= pLeft[i] ^ pRight[i];
+  if ((differences & ~kCaseBit) != 0) return false;
+  for (std::size_t i = 0; differences != 0 && i < pLeft.size(); ++i)
+    if (FoldCase(static_cast<char16_t>(pLeft[i])) != FoldCase(static_cast<char16_t>(pRight[i]))) return false;
   return true;
 }
 
-// Length and three letters tell most names of a class apart, at the same cost for long ones.
+// Length and three letters tell most names of a class apart, at the same cost for long ones. Letters hash alike in
+// either case; so do some marks, which no name has.
 template <class Character>
 constexpr std::uint32_t HashName(std::basic_string_view<Character> pName) noexcept {
   if (pName.empty()) return 0;
-  const auto letter = [&](std::size_t pAt) { return std::uint32_t{FoldCase(static_cast<char16_t>(pName[pAt]))}; };
+  const auto letter = [&](std::size_t pAt) { return std::uint32_t{static_cast<char16_t>(pName[pAt])} | 0x20U; };
   const std::uint32_t hash = static_cast<std::uint32_t>(pName.size()) * 7 + letter(0) * 31 +
                              letter(pName.size() / 2) * 131 + letter(pName.size() - 1) * 523;
   return hash ^ (hash >> 5);

@@ -128,7 +128,7 @@ HRESULT STDMETHODCALLTYPE DualGetIdsOfNames(DualInterface* pSelf, REFIID pReserv
 HRESULT STDMETHODCALLTYPE DualInvoke(DualInterface* pSelf, DISPID pMember, REFIID pReserved, LCID, WORD pFlags,
                                      DISPPARAMS* pParameters, VARIANT* pResult, EXCEPINFO* pException,
                                      UINT* pFaultAt) noexcept {
-  if (pResult) VariantInit(pResult);
+  if (pResult) *pResult = VARIANT{};
   if (pFaultAt) *pFaultAt = 0;
   if (pReserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
   if (!pParameters) return NullPointerResult();

@@ -67,7 +67,7 @@ inline void ClearVariant(VARIANT& pVariant) noexcept {
 
 class OwnedVariant {
  public:
-  OwnedVariant() noexcept { VariantInit(&value); }
+  OwnedVariant() noexcept = default;
   ~OwnedVariant() { ClearVariant(value); }
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
@@ -78,7 +78,7 @@ class OwnedVariant {
     return result;
   }
 
-  VARIANT value;
+  VARIANT value{};
 };
 
 class OwnedText {
