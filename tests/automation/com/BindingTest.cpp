@@ -16,7 +16,8 @@ TEST(Binding, ErrorsCarryNumberSourceAndText) {
   EXPECT_EQ("13|QZBase.CDblVector|Type mismatch", Call(vector, L"AddValue", {Text(text)}));
   EXPECT_EQ("94|QZBase.CDblVector|Invalid use of Null", Call(vector, L"AddValue", {Value(VT_NULL, 0)}));
   errors->SetServerId(server.Get());
-  EXPECT_EQ("1002|Server|x", Call(errors, L"Throw", {Long(1002), Text(text)}));
+  for (const char* number : {"1002", "450", "438"})  // those of calls too are the member's own here
+    EXPECT_EQ(number + std::string("|Server|x"), Call(errors, L"Throw", {Long(std::atoi(number)), Text(text)}));
 
   double value = 3;
   GUID id{};

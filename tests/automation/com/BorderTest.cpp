@@ -52,6 +52,28 @@ TEST(ArrayBorder, ArraysOfAnyNumberAreConvertedLateBound) {
   EXPECT_EQ(VT_ARRAY | VT_VARIANT, variable.vt);
 }
 
+// `Dim names() As String`: no array yet, but a type of elements.
+TEST(ArrayBorder, ArraysWithoutDimensionsKeepTheirElementType) {
+  const auto math = Create<_GCMath>(__uuidof(GCMath));
+  VARIANT none = Value(VT_ARRAY | VT_I4, static_cast<SAFEARRAY*>(nullptr));
+  VARIANT two = Value(VT_ARRAY | VT_R8, ArrayOf<double>(VT_R8, 0, {1, 2}).Release());
+  EXPECT_EQ("", Call(math, L"Swap", {Variable(none), Variable(two)}));
+  EXPECT_EQ(VT_ARRAY | VT_R8, none.vt);
+  EXPECT_EQ(VT_ARRAY | VT_I4, two.vt);
+  EXPECT_EQ(nullptr, two.parray);
+  VariantClear(&none);
+
+  const OwnedText text(u"a;b");
+  const OwnedText delimiter(u";");
+  SAFEARRAY* names = nullptr;
+  const auto strings = Create<_GCStrings>(__uuidof(GCStrings));
+  EXPECT_EQ("2", Call(strings, L"ParseString", {Text(text), Text(delimiter), Reference(VT_ARRAY | VT_BSTR, names)}));
+  const OwnedSafeArray filled(names);
+  VARTYPE type = VT_EMPTY;
+  EXPECT_EQ(S_OK, SafeArrayGetVartype(names, &type));
+  EXPECT_EQ(VT_BSTR, type);
+}
+
 // Swap gives each variable what the other one held; here the variables are arrays of fixed types.
 TEST(ArrayBorder, ArraysComeBackInTheCallersOwnElementType) {
   const auto math = Create<_GCMath>(__uuidof(GCMath));

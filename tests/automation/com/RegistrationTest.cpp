@@ -92,5 +92,20 @@ TEST_F(Registration, ForOneUserComesAndGoes) {
   EXPECT_FALSE(HasClass(HKEY_CURRENT_USER));
 }
 
+// A key that lasts only until the system ends takes none that last longer below it.
+TEST_F(Registration, ThatFailsHalfWayLeavesWhatWasThere) {
+  constexpr const wchar_t* kLastClass = L"Software\\Classes\\CLSID\\{09EF0B15-C161-47D0-B8C4-B1AE9ABDCA74}";
+  HKEY obstacle = nullptr;
+  ASSERT_EQ(ERROR_SUCCESS, RegCreateKeyExW(HKEY_LOCAL_MACHINE, kLastClass, 0, nullptr, REG_OPTION_VOLATILE,
+                                           KEY_ALL_ACCESS, nullptr, &obstacle, nullptr));
+  RegCloseKey(obstacle);
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\QZBase.CBuffer", nullptr, REG_SZ, L"old",
+                  4 * sizeof(wchar_t));
+  EXPECT_TRUE(FAILED(Call("DllRegisterServer")));
+  EXPECT_EQ(L"old", Value(HKEY_LOCAL_MACHINE, L"QZBase.CBuffer"));
+  for (const wchar_t* key : {L"QZBase.CBuffer\\CLSID", kClassKey, kLibraryKey, L"QZBase.CLocalGUI"})
+    EXPECT_FALSE(Has(HKEY_LOCAL_MACHINE, key)) << std::string(key, key + wcslen(key));
+}
+
 }  // namespace
 }  // namespace qzbase::tests
