@@ -99,11 +99,17 @@ std::string MemberCall::Name() const {
   return std::string(entry->identity->name) + "." + std::string(Member().name);
 }
 
+std::vector<MemberCall> MembersOf(const ClassEntry& pEntry) {
+  std::vector<MemberCall> calls;
+  for (std::size_t row = 0; row < pEntry.members->rows.size(); ++row)
+    if (!kLeftOut.contains(pEntry.members->rows[row].name)) calls.push_back({&pEntry, row});
+  return calls;
+}
+
 std::vector<MemberCall> AllMembers() {
   std::vector<MemberCall> calls;
   for (const ClassEntry* entry : Classes())
-    for (std::size_t row = 0; row < entry->members->rows.size(); ++row)
-      if (!kLeftOut.contains(entry->members->rows[row].name)) calls.push_back({entry, row});
+    for (MemberCall& each : MembersOf(*entry)) calls.push_back(std::move(each));
   return calls;
 }
 

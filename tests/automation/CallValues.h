@@ -36,6 +36,7 @@ struct CallOutcome {
   bool operator==(const CallOutcome&) const = default;
 };
 
+std::vector<MemberCall> MembersOf(const automation::ClassEntry& pEntry);
 std::vector<MemberCall> AllMembers();
 
 // With arguments of the parameters' own types.

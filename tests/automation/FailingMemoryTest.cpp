@@ -19,8 +19,7 @@ const std::set<std::string_view> kDropErrors = {"ErrorMessage", "StrVector", "Se
 
 // An object that has been worked with: every member of its class was called once.
 void Use(const ClassEntry& pEntry, Object& pObject) {
-  for (const MemberCall& each : AllMembers())
-    if (each.entry == &pEntry) CallNatively(pObject, WithRightArguments(each));
+  for (const MemberCall& each : MembersOf(pEntry)) CallNatively(pObject, WithRightArguments(each));
 }
 
 struct Attempted {
